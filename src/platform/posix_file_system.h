@@ -1,0 +1,34 @@
+// The file system of Linux and its relatives.
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace vorlane {
+
+// Names are bytes, exact, case-sensitive unless the mounted file system says otherwise. Every file
+// is opened O_NONBLOCK and only after a look at its kind, so a pipe can't stall the program.
+// RenameNoReplace is renameat2(RENAME_NOREPLACE). Where the file system doesn't offer that: a file
+// by link and unlink; a folder, or where there are no hard links, by a look at the target and a
+// rename, which leaves a moment in which another program could put a file there.
+class PosixFileSystem : public FileSystem {
+ public:
+  PosixFileSystem();
+
+  EntryStatus StatusOf(TextView path) override;
+  bool NameExists(TextView path) override;
+  std::optional<FileIdentity> IdentityOf(TextView path) override;
+  std::vector<FolderEntry> ListFolder(TextView folder) override;
+  std::vector<Text> ListNames(TextView folder) override;
+  std::optional<FileTimes> TimesOf(TextView path) override;
+  bool IsFileInUse(TextView path) override;
+  std::string ReadFileBytes(TextView path) override;
+  std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) override;
+  RenameOutcome RenameNoReplace(TextView from, TextView to) override;
+  bool CreateFolder(TextView path) override;
+  bool RemoveFolder(TextView path) override;
+  void CreateFile(TextView path, std::string_view bytes) override;
+  void AppendToFile(TextView path, std::string_view bytes) override;
+  bool RemoveFile(TextView path) override;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Every check and every test of the project, in one go. The last line counts them:
+# a static check counts as one, a test program as the number of its tests.
+set -uo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+passed=0
+failed=0
+
+check() { # check NAME COMMAND...
+  local name=$1 log
+  shift
+  log=$(mktemp)
+  if "$@" >"$log" 2>&1; then
+    passed=$((passed + 1))
+    echo "ok      $name"
+  else
+    failed=$((failed + 1))
+    cat "$log"
+    echo "FAILED  $name"
+  fi
+  rm -f "$log"
+}
+
+test_program() { # test_program PROGRAM: a GoogleTest program, counted by its own last lines
+  local log status good bad
+  log=$(mktemp)
+  "$@" --gtest_brief=1 2>&1 | tee "$log"
+  status=${PIPESTATUS[0]}
+  good=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$log")
+  bad=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) tests\{0,1\}, listed below:$/\1/p' "$log")
+  rm -f "$log"
+  # A program that ended early, or counted nothing, is a failure whatever it printed.
+  if { ((status != 0)) && [[ -z "$bad" ]]; } || [[ -z "$good" ]]; then
+    bad=$((${bad:-0} + 1))
+    echo "FAILED  $1 ended with status $status"
+  fi
+  passed=$((passed + ${good:-0}))
+  failed=$((failed + ${bad:-0}))
+}
+
+build() { # build PRESET
+  cmake --preset "$1" && cmake --build --preset "$1"
+}
+
+sources() { git ls-files -z --cached --others --exclude-standard "$@"; }
+
+format_is_kept() { sources '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror; }
+
+lint_is_clean() {
+  sources 'src/*.cpp' | grep -zv '/win32_' |
+    xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/asan --quiet
+}
+
+check "includes point one way" tools/check_includes.sh
+check "formatting" format_is_kept
+for preset in core asan; do
+  check "build $preset" build "$preset"
+  for program in build/"$preset"/bin/*_tests; do
+    [[ -x "$program" ]] && test_program "$program"
+  done
+done
+check "lint" lint_is_clean
+
+echo "$passed passed, $failed failed"
+((failed == 0))
