@@ -21,7 +21,8 @@ Text TextFromBytes(std::string_view bytes);
 // holds U+0000, or a lone surrogate outside U+DC80 to U+DCFF (half of a pair).
 std::optional<std::string> BytesFromText(TextView text);
 
-// UTF-8 for a person to read: what BytesFromText refuses is shown as U+FFFD.
+// The name as a terminal shows it: what BytesFromText refuses becomes U+FFFD, an escaped byte is
+// that byte again, so that a name reads as other programs print it.
 std::string DisplayUtf8(TextView text);
 
 // True if all bytes are valid UTF-8.
