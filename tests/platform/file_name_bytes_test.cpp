@@ -88,6 +88,13 @@ TEST(FileNameBytes, EachByteOfAnInvalidSequenceIsEscaped) {
   }
 }
 
+TEST(FileNameBytes, BytesBehindTheEndAreNotRead) {
+  EXPECT_EQ(TextFromBytes(std::string_view("\xC3\xA9").substr(0, 1)), Units({0xDCC3}));
+  EXPECT_EQ(TextFromBytes(std::string_view("\xF0\x9F\x98\x80").substr(0, 3)),
+            Units({0xDCF0, 0xDC9F, 0xDC98}));
+  EXPECT_EQ(BytesFromText(TextView(u"\U0001F600").substr(0, 1)), std::nullopt);
+}
+
 TEST(FileNameBytes, EveryOneAndTwoByteSequenceComesBack) {
   for (int first = 0; first < 256; ++first) {
     ExpectComesBack(Bytes({first}));
