@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "platform/dates.h"
 
@@ -14,9 +15,13 @@ class Clock {
   // Counts up steadily from an arbitrary start.
   virtual std::uint64_t Milliseconds() = 0;
 
-  // The local date and time.
+  // The local date and time, whole seconds.
   virtual DateTime Now() = 0;
 };
+
+// The local date and time of a moment given in seconds since 1970-01-01 UTC, with the offset from
+// UTC that holds at that moment. Nothing if the year is outside 100 to 9999.
+std::optional<DateTime> LocalDateTime(std::int64_t unixSeconds);
 
 class SystemClock final : public Clock {
  public:
