@@ -17,15 +17,25 @@ TEST(PathStyle, RootedPaths) {
     Text path;
     bool onWindows, onPosix;
   } cases[] = {
-      {u"C:\\", true, false},     {u"C:\\Music", true, false},
-      {u"?:\\", true, false},     {u"日:\\", true, false},
-      {u"C:", false, false},      {u"C:Music", false, false},
-      {u"C:/", false, false},     {u"\\", false, false},
-      {u"\\Music", false, false}, {u"\\\\server\\share", false, false},
-      {u"Music", false, false},   {u"", false, false},
-      {u"/", false, true},        {u"/Music", false, true},
-      {u"//Music", false, true},  {u"/:\\", true, true},
-      {u" /Music", false, false}, {u"./Music", false, false},
+      {u"C:\\", true, false},
+      {u"C:\\Music", true, false},
+      {u"?:\\", true, false},
+      {u"日:\\", true, false},
+      {u"C:", false, false},
+      {u"C:Music", false, false},
+      {u"C:/", false, false},
+      {u"ab\\", false, false},
+      {u"\\", false, false},
+      {u"\\Music", false, false},
+      {u"\\\\server\\share", false, false},
+      {u"Music", false, false},
+      {u"", false, false},
+      {u"/", false, true},
+      {u"/Music", false, true},
+      {u"//Music", false, true},
+      {u"/:\\", true, true},
+      {u" /Music", false, false},
+      {u"./Music", false, false},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(IsRooted(c.path, Windows), c.onWindows) << Shown(c.path);
