@@ -537,7 +537,8 @@ TEST_P(FileSystemContract, AppendsToAFileThatIsThere) {
       {u"missing", 53}, {u"folder", 75}, {u"link", 75}, {u"dangling", 75}, {u"other", 75},
   };
   for (const auto& [name, number] : failures) {
-    EXPECT_EQ(FailureOf([&] { files_.AppendToFile(P(name), "x"); }), number)
+    const Text path = P(name);
+    EXPECT_EQ(FailureOf([&] { files_.AppendToFile(path, "x"); }), number)
         << testing::PrintToString(name);
   }
   for (const Text& name : ImpossibleNames) {
