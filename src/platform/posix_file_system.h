@@ -10,6 +10,9 @@ namespace vorlane {
 // RenameNoReplace is renameat2(RENAME_NOREPLACE). Where the file system doesn't offer that: a file
 // by link and unlink; a folder, or where there are no hard links, by a look at the target and a
 // rename, which leaves a moment in which another program could put a file there.
+//
+// The constructor makes the whole process ignore SIGIO: that signal comes when somebody opens a
+// file for writing just while IsFileInUse looks at it, and by default it ends the process.
 class PosixFileSystem : public FileSystem {
  public:
   PosixFileSystem();
@@ -29,6 +32,15 @@ class PosixFileSystem : public FileSystem {
   void CreateFile(TextView path, std::string_view bytes) override;
   void AppendToFile(TextView path, std::string_view bytes) override;
   bool RemoveFile(TextView path) override;
+
+ protected:
+  // The two system calls that not every file system offers, apart so that the ways around them can
+  // be tried on any disk. 0 or errno.
+  virtual int AtomicRename(const char* from, const char* to);
+  virtual int HardLink(const char* from, const char* to);
+
+ private:
+  RenameOutcome RenameByLink(const char* from, const char* to);
 };
 
 }  // namespace vorlane

@@ -53,8 +53,10 @@ std::map<std::string, std::string> TemporaryFolder::Contents() const {
       contents[name + "@"] = fs::read_symlink(entry.path()).string();
     } else if (entry.is_directory()) {
       contents[name + "/"] = "";
-    } else {
+    } else if (entry.is_regular_file()) {
       contents[name] = Read(name);
+    } else {
+      contents[name + "|"] = "";
     }
   }
   return contents;

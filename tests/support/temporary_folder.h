@@ -26,7 +26,7 @@ class TemporaryFolder {
   bool Exists(const std::string& name) const;
 
   // Every file below, by its path from here, with its bytes; a folder ends in "/" and has none; a
-  // link ends in "@" and has its target.
+  // link ends in "@" and has its target; any other kind ends in "|".
   std::map<std::string, std::string> Contents() const;
 
  private:

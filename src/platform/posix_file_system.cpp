@@ -1,0 +1,55 @@
+#include "platform/posix_file_system.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "platform/file_name_bytes.h"
+#include "platform/posix_status.h"
+
+namespace vorlane {
+
+PosixFileSystem::PosixFileSystem() {
+  std::signal(SIGIO, SIG_IGN);
+}
+
+EntryStatus PosixFileSystem::StatusOf(TextView path) {
+  const auto bytes = BytesFromText(path);
+  struct stat status {};
+  if (!bytes || stat(bytes->c_str(), &status) != 0) {
+    return {};
+  }
+  return MakeStatus(AT_FDCWD, bytes->c_str(), status, IsHiddenPath(path));
+}
+
+bool PosixFileSystem::NameExists(TextView path) {
+  return IdentityOf(path).has_value();
+}
+
+std::optional<FileIdentity> PosixFileSystem::IdentityOf(TextView path) {
+  const auto bytes = BytesFromText(path);
+  struct stat status {};
+  if (!bytes || lstat(bytes->c_str(), &status) != 0) {
+    return std::nullopt;
+  }
+  return MakeIdentity(status);
+}
+
+bool PosixFileSystem::CreateFolder(TextView path) {
+  const auto bytes = BytesFromText(path);
+  return bytes && mkdir(bytes->c_str(), 0777) == 0;
+}
+
+bool PosixFileSystem::RemoveFolder(TextView path) {
+  const auto bytes = BytesFromText(path);
+  return bytes && rmdir(bytes->c_str()) == 0;
+}
+
+bool PosixFileSystem::RemoveFile(TextView path) {
+  const auto bytes = BytesFromText(path);
+  return bytes && unlink(bytes->c_str()) == 0;
+}
+
+}  // namespace vorlane

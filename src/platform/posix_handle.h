@@ -1,0 +1,53 @@
+// What the posix_*.cpp files share: descriptors, the careful way to open a file, and errno as a
+// failure.
+#pragma once
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <string>
+#include <utility>
+
+#include "platform/failure.h"
+
+namespace vorlane {
+
+// A descriptor, closed by its destructor.
+class FileHandle {
+ public:
+  FileHandle() = default;
+  explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+  FileHandle(FileHandle&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+  FileHandle& operator=(FileHandle&& other) noexcept {
+    std::swap(descriptor_, other.descriptor_);
+    return *this;
+  }
+  ~FileHandle() { Close(); }
+
+  bool IsOpen() const { return descriptor_ >= 0; }
+  int Descriptor() const { return descriptor_; }
+
+  // 0, or the errno of a write that the system had put off until now.
+  int Close();
+
+ private:
+  int descriptor_ = -1;
+};
+
+struct OpenedFile {
+  FileHandle Handle;      // not open after a failure
+  struct stat Status {};  // of the open file
+  int Error = 0;          // the errno of a failure
+};
+
+// Opens what exists and is a regular file. It is looked at before it is opened, because opening a
+// device or a pipe is an act in itself, and after, because it may have been exchanged meanwhile.
+// With O_NOFOLLOW a link is refused.
+OpenedFile OpenRegularFile(const std::string& path, int flags);
+
+// The failure that an errno of an operation on a file stands for.
+ErrorNumber FailureOfErrno(int error);
+
+[[noreturn]] void ThrowErrno(int error);
+
+}  // namespace vorlane
