@@ -160,6 +160,16 @@ TEST(UpdatedID3v2, NewFrameBehindAnEmptyOneBeginsInItsLastNuls) {
   EXPECT_EQ(ParseID3v2(Tag(600, frames)).Genre, 17);
 }
 
+// The same with a text that ends in a NUL, as UTF-16 does: the new artist begins in it, and is
+// damaged when the title, whose old text reaches into it, is replaced right after.
+TEST(UpdatedID3v2, NewFrameBehindATextThatEndsInANulIsDamaged) {
+  const std::string old = Tag(600, Frame("TIT2", std::string("A\0B\0", 4)));
+  const std::string updated = UpdatedID3v2(old, Filled());
+  EXPECT_EQ(updated.substr(10, 32), Frame("TIT2", "Title") + Frame("TPE1", "Artist").substr(1));
+  EXPECT_EQ(ParseID3v2(updated).Artist, u"");
+  EXPECT_EQ(ParseID3v2(UpdatedID3v2(updated, Filled())).Artist, u"Artist");
+}
+
 TEST(UpdatedID3v2, SmallTagCanLoseItsEndToo) {
   const std::string frames = Frame("TIT2", "x") + std::string(200, 'a') + "end";
   const std::string updated = UpdatedID3v2(Tag(230, frames), Filled());
