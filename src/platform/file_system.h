@@ -51,7 +51,7 @@ struct FileIdentity {
 struct FolderEntry {
   Text Name;
   EntryStatus Status;
-  FileIdentity Identity;  // of what the entry leads to
+  FileIdentity Identity;  // of what the entry leads to; zero if that is nothing
   bool IsLink = false;    // a symbolic link; Status tells what it leads to
 };
 

@@ -247,9 +247,9 @@ TEST_P(FileSystemContract, AListingTellsAllOfEachEntry) {
     EXPECT_EQ(entries[i].Status.Size, expected[i].Size);
     EXPECT_EQ(entries[i].Status.Hidden, expected[i].Hidden);
     EXPECT_EQ(entries[i].IsLink, expected[i].IsLink);
-    if (!expected[i].LeadsTo.empty()) {
-      EXPECT_EQ(entries[i].Identity, files_.IdentityOf(P(expected[i].LeadsTo)));
-    }
+    EXPECT_EQ(entries[i].Identity, expected[i].LeadsTo.empty()
+                                       ? FileIdentity()
+                                       : files_.IdentityOf(P(expected[i].LeadsTo)));
   }
 }
 
