@@ -1,5 +1,6 @@
 #include "platform/file_name_bytes.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace vorlane {
@@ -19,6 +20,23 @@ bool IsLowSurrogate(char16_t unit) {
 
 bool IsEscapedByte(char16_t unit) {
   return unit >= 0xDC80 && unit <= 0xDCFF;
+}
+
+// The characters from U+0001 to U+007F at the front, which are the same in both forms. Most names
+// are nothing else, so they are taken in one go.
+template <typename View>
+View LeadingAscii(View view) {
+  const auto end =
+      std::find_if(view.begin(), view.end(), [](auto c) { return c <= 0 || c > 0x7F; });
+  return view.substr(0, static_cast<std::size_t>(end - view.begin()));
+}
+
+template <typename View, typename String>
+void AppendAscii(String& string, View ascii) {
+  const std::size_t start = string.size();
+  string.resize(start + ascii.size());
+  std::transform(ascii.begin(), ascii.end(), string.begin() + static_cast<std::ptrdiff_t>(start),
+                 [](auto c) { return static_cast<typename String::value_type>(c); });
 }
 
 struct Decoded {
@@ -109,10 +127,10 @@ void AppendUtf8(std::string& bytes, char32_t character) {
 template <typename Refuse>
 bool AppendNameBytes(std::string& bytes, TextView text, Refuse&& refuse) {
   for (std::size_t i = 0; i < text.size();) {
-    const char16_t unit = text[i];
-    if (unit > 0 && unit < 0x80) {
-      bytes.push_back(static_cast<char>(unit));
-      ++i;
+    const TextView ascii = LeadingAscii(text.substr(i));
+    if (!ascii.empty()) {
+      AppendAscii(bytes, ascii);
+      i += ascii.size();
       continue;
     }
     const Decoded decoded = DecodeUtf16(text.substr(i));
@@ -121,8 +139,8 @@ bool AppendNameBytes(std::string& bytes, TextView text, Refuse&& refuse) {
       i += decoded.Length;
       continue;
     }
-    if (IsEscapedByte(unit)) {
-      bytes.push_back(static_cast<char>(unit - EscapeBase));
+    if (IsEscapedByte(text[i])) {
+      bytes.push_back(static_cast<char>(text[i] - EscapeBase));
     } else if (!refuse()) {
       return false;
     }
@@ -137,15 +155,15 @@ Text TextFromBytes(std::string_view bytes) {
   Text text;
   text.reserve(bytes.size());
   for (std::size_t i = 0; i < bytes.size();) {
-    const auto byte = static_cast<std::uint8_t>(bytes[i]);
-    if (byte < 0x80) {
-      text.push_back(byte);
-      ++i;
+    const std::string_view ascii = LeadingAscii(bytes.substr(i));
+    if (!ascii.empty()) {
+      AppendAscii(text, ascii);
+      i += ascii.size();
       continue;
     }
     const Decoded decoded = DecodeUtf8(bytes.substr(i));
     if (decoded.Length == 0) {
-      text.push_back(static_cast<char16_t>(EscapeBase + byte));
+      text.push_back(static_cast<char16_t>(EscapeBase + static_cast<std::uint8_t>(bytes[i])));
       ++i;
       continue;
     }
