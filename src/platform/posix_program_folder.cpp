@@ -1,0 +1,30 @@
+#include <cstdlib>
+#include <filesystem>
+
+#include "platform/file_name_bytes.h"
+#include "platform/path_style.h"
+#include "platform/program_folder.h"
+
+namespace vorlane {
+
+namespace {
+
+Text FolderText(const std::filesystem::path& folder) {
+  return EnsureTrailingSeparator(TextFromBytes(folder.native()), PathStyle::Posix);
+}
+
+}  // namespace
+
+Text ProgramFolder() {
+  if (const char* home = std::getenv("VORLANE_HOME"); home != nullptr && *home != '\0') {
+    return FolderText(home);
+  }
+  std::error_code error;
+  const auto binary = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+  if (std::filesystem::exists(binary / "Operations.ini", error)) {
+    return FolderText(binary);
+  }
+  return FolderText(binary.parent_path() / "share" / "vorlane");
+}
+
+}  // namespace vorlane
