@@ -1,0 +1,110 @@
+#include "batch/journal_text.h"
+
+#include <charconv>
+
+#include "platform/code_page.h"
+#include "platform/vendor.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view HeaderEnd = "\r\n\r\n\r\n";
+constexpr std::string_view Warning = "This is an automatically generated Undo File. Do not edit.";
+constexpr std::string_view EscapeMark = "//";
+constexpr std::size_t EscapeDigits = 4;
+
+void AppendField(std::string& field, char16_t unit) {
+  const auto byte = ByteOfCharacter(unit);
+  if (byte && unit != u'|' && unit != u'\r' && unit != u'\n') {
+    field.push_back(static_cast<char>(*byte));
+    return;
+  }
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  field.append(EscapeMark);
+  for (int shift = 12; shift >= 0; shift -= 4) {
+    field.push_back(digits[static_cast<std::size_t>((unit >> shift) & 0xF)]);
+  }
+}
+
+std::vector<std::string> SplitBytes(std::string_view text, std::string_view separator) {
+  std::vector<std::string> pieces;
+  std::size_t start = 0;
+  for (auto hit = text.find(separator); hit != std::string_view::npos;
+       hit = text.find(separator, start)) {
+    pieces.emplace_back(text.substr(start, hit - start));
+    start = hit + separator.size();
+  }
+  pieces.emplace_back(text.substr(start));
+  return pieces;
+}
+
+}  // namespace
+
+std::string JournalHeader() {
+  std::string header = CodePageBytes(ApplicationTitle) + " - " + CodePageBytes(VendorAddress);
+  header.append(LineEnd).append(LineEnd);
+  header.append(Warning).append(LineEnd);
+  header.append(80, '-').append(HeaderEnd);
+  return header;
+}
+
+bool IsJournalText(std::string_view head) {
+  return head.find(Warning) != std::string_view::npos || JournalHeader().starts_with(head);
+}
+
+std::string JournalNameField(TextView name) {
+  std::string field;
+  for (const char16_t unit : name) {
+    AppendField(field, unit);
+  }
+  return field;
+}
+
+std::string JournalFolderField(TextView folder, PathStyle style) {
+  std::string field;
+  bool afterSeparator = false;
+  for (const char16_t unit : folder) {
+    const bool isSeparator = unit == Separator(style);
+    if (!(isSeparator && afterSeparator)) {
+      AppendField(field, unit);
+    }
+    afterSeparator = isSeparator;
+  }
+  return field;
+}
+
+Text TextOfJournalField(std::string_view field) {
+  Text text;
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    const auto digits = field.substr(i).substr(0, EscapeMark.size() + EscapeDigits);
+    std::uint16_t unit = 0;
+    if (digits.size() == EscapeMark.size() + EscapeDigits && digits.starts_with(EscapeMark)) {
+      const char* end = digits.data() + digits.size();
+      const auto read = std::from_chars(digits.data() + EscapeMark.size(), end, unit, 16);
+      if (read.ec == std::errc() && read.ptr == end) {
+        text.push_back(static_cast<char16_t>(unit));
+        i += digits.size() - 1;
+        continue;
+      }
+    }
+    text.push_back(CharacterOfByte(static_cast<std::uint8_t>(field[i])));
+  }
+  return text;
+}
+
+std::vector<std::string> JournalLines(std::string_view journal) {
+  const auto end = journal.find(HeaderEnd);
+  if (end == std::string_view::npos || journal.size() <= end + HeaderEnd.size() + 1) {
+    return {};
+  }
+  const auto body = journal.substr(end + HeaderEnd.size());
+  return SplitBytes(body.substr(0, body.size() - LineEnd.size()), LineEnd);
+}
+
+std::vector<std::string> SplitRecord(std::string_view line) {
+  return SplitBytes(line, "|");
+}
+
+}  // namespace vorlane

@@ -1,0 +1,85 @@
+#include "filelist/folder_walk.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "platform/failure.h"
+#include "platform/letter_case.h"
+
+namespace vorlane {
+
+namespace {
+
+void SortAsTheListDoes(std::vector<FolderEntry>& entries) {
+  std::vector<Text> keys;
+  keys.reserve(entries.size());
+  for (const FolderEntry& entry : entries) {
+    keys.push_back(FoldCase(entry.Name));
+  }
+  std::vector<std::size_t> order(entries.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    const int compared = keys[a].compare(keys[b]);
+    return compared == 0 ? entries[a].Name < entries[b].Name : compared < 0;
+  });
+  std::vector<FolderEntry> sorted;
+  sorted.reserve(entries.size());
+  for (const std::size_t place : order) {
+    sorted.push_back(std::move(entries[place]));
+  }
+  entries = std::move(sorted);
+}
+
+// A system that delivers names in records of a fixed size fills them up with NULs.
+Text TrimAtNul(TextView name) {
+  return Text(name.substr(0, name.find(u'\0')));
+}
+
+}  // namespace
+
+void FolderWalk::SearchOneFolder() {
+  const Text folder = queue_.front();
+  std::vector<FolderEntry> entries;
+  if (!Attempt([&] { entries = services_.Files.ListFolder(folder); })) {
+    return;
+  }
+  if (const auto identity = services_.Files.IdentityOf(folder)) {
+    IsFirstVisit(*identity);
+  }
+  SortAsTheListDoes(entries);
+  for (const FolderEntry& entry : entries) {
+    if (entry.Status.Kind == EntryKind::Folder) {
+      TakeFolder(entry, folder);
+    } else if (entry.Status.Kind == EntryKind::File) {
+      TakeFile(entry, folder);
+    }
+  }
+}
+
+void FolderWalk::TakeFolder(const FolderEntry& entry, const Text& folder) {
+  if (includeSubFolders_ && !entry.IsLink && IsFirstVisit(entry.Identity)) {
+    queue_.push_back(folder + entry.Name + Separator(form_.Paths));
+  }
+  if (listFolders_ && !entry.Status.Hidden) {
+    Record(entry, folder);
+  }
+}
+
+void FolderWalk::TakeFile(const FolderEntry& entry, const Text& folder) {
+  if (listFolders_ || entry.Status.Hidden) {
+    return;
+  }
+  totals_.Size += static_cast<std::int32_t>(static_cast<std::uint32_t>(entry.Status.Size));
+  Record(entry, folder);
+}
+
+void FolderWalk::Record(const FolderEntry& entry, const Text& folder) {
+  ++totals_.Entries;
+  found_.push_back({TrimAtNul(entry.Name), form_.Rows.IdOf(folder), entry.Status.ReadOnly});
+}
+
+bool FolderWalk::IsFirstVisit(const FileIdentity& identity) {
+  return visited_.insert(identity).second;
+}
+
+}  // namespace vorlane

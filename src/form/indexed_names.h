@@ -1,0 +1,50 @@
+// An array of names that can tell quickly where a name stands, without regard to case and only
+// among rows of one folder. It answers what the rules describe as a search through all slots.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+#include "form/file_rows.h"
+#include "platform/text.h"
+
+namespace vorlane {
+
+// Slots count from 0. Slot K belongs to row K + 1, whichever row stands there now; slots without a
+// row (there may be more slots than rows) are never found.
+class IndexedNames {
+ public:
+  std::int32_t Count() const { return static_cast<std::int32_t>(names_.size()); }
+  const Text& operator[](std::int32_t slot) const { return names_[static_cast<std::size_t>(slot)]; }
+
+  // Replaces all names. The index is built at the next Refresh.
+  void Assign(std::vector<Text> names);
+
+  // Writes one slot; a slot outside the array is a failure (RunError 9).
+  void Set(std::int32_t slot, TextView name);
+
+  // Brings the index up to the rows' present order. Cheap if no row has moved since.
+  // Cost otherwise: linear in the slots.
+  void Refresh(const FileRows& rows);
+
+  // Calls `visit` with each slot that holds the name and whose row lies in that folder, in no
+  // particular order, until it returns true. True if it did. Needs a Refresh since rows last moved.
+  bool AnySlot(std::uint64_t key, TextView name, FolderId folder,
+               const std::function<bool(std::int32_t)>& visit) const;
+
+  // The key to pass to AnySlot; one computation serves several arrays.
+  static std::uint64_t KeyOf(TextView name, FolderId folder);
+
+ private:
+  void Insert(std::int32_t slot);
+  void Remove(std::int32_t slot);
+
+  std::vector<Text> names_;
+  std::vector<FolderId> folders_;  // of the rows that had a slot at the last Refresh
+  std::unordered_multimap<std::uint64_t, std::int32_t> slotsByKey_;
+  std::uint64_t generation_ = ~std::uint64_t{0};
+};
+
+}  // namespace vorlane

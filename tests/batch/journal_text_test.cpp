@@ -1,0 +1,85 @@
+#include "batch/journal_text.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/vendor.h"
+
+namespace vorlane {
+namespace {
+
+TEST(JournalHeader, HasExactly193Bytes) {
+  EXPECT_EQ(ApplicationTitle.size() + 3 + VendorAddress.size(), 43U);
+  EXPECT_EQ(VendorAddress.size(), 28U);
+  EXPECT_EQ(JournalHeader().size(), JournalHeaderSize);
+  EXPECT_EQ(JournalHeaderSize, 193U);
+}
+
+TEST(JournalHeader, ReadsAsSixLines) {
+  EXPECT_EQ(JournalHeader(),
+            "Vorlane 2006 - https://www.vorlane.example/\r\n\r\n"
+            "This is an automatically generated Undo File. Do not edit.\r\n" +
+                std::string(80, '-') + "\r\n\r\n\r\n");
+}
+
+TEST(JournalFields, OrdinaryNamesStandAsTheyAre) {
+  EXPECT_EQ(JournalNameField(u"a b.mp3"), "a b.mp3");
+  EXPECT_EQ(JournalNameField(u"\u00FC\u20AC/\\"), "\xFC\x80/\\");
+}
+
+TEST(JournalFields, WhatALineCannotCarryIsEscaped) {
+  const std::pair<Text, std::string> cases[] = {
+      {u"a|b", "a//007Cb"},
+      {u"a\r\nb", "a//000D//000Ab"},
+      {u"\u65E5", "//65E5"},
+      {Text(1, static_cast<char16_t>(0xDC80)), "//DC80"},
+      {u"\U0001F600", "//D83D//DE00"},
+      {u"\u0081", "\x81"},
+  };
+  for (const auto& [name, field] : cases) {
+    EXPECT_EQ(JournalNameField(name), field);
+    EXPECT_EQ(TextOfJournalField(field), name);
+  }
+}
+
+TEST(JournalFields, EveryUnitComesBack) {
+  for (std::uint32_t unit = 1; unit <= 0xFFFF; ++unit) {
+    if (unit == u'/') {
+      continue;  // never in a name
+    }
+    const Text name = Text(u"a") + static_cast<char16_t>(unit) + u"0";
+    ASSERT_EQ(TextOfJournalField(JournalNameField(name)), name) << unit;
+    ASSERT_EQ(JournalNameField(name).find_first_of("|\r\n"), std::string::npos) << unit;
+  }
+}
+
+TEST(JournalFields, SlashesWithoutFourDigitsAreNoEscape) {
+  EXPECT_EQ(TextOfJournalField("//12"), u"//12");
+  EXPECT_EQ(TextOfJournalField("//12G4"), u"//12G4");
+  EXPECT_EQ(TextOfJournalField("//-123"), u"//-123");
+  EXPECT_EQ(TextOfJournalField("/a//0041/"), u"/aA/");
+}
+
+TEST(JournalFields, FoldersHaveSingleSeparators) {
+  EXPECT_EQ(JournalFolderField(u"//a///b|/", PathStyle::Posix), "/a/b//007C/");
+  EXPECT_EQ(JournalFolderField(u"C:\\\\Music\\", PathStyle::Windows), "C:\\Music\\");
+  EXPECT_EQ(TextOfJournalField("/a/b//007C/"), u"/a/b|/");
+}
+
+TEST(JournalLines, AreWhatStandsBehindTheHeader) {
+  const std::string header = JournalHeader();
+  EXPECT_EQ(JournalLines(header + "one\r\ntwo\r\n"), (std::vector<std::string>{"one", "two"}));
+  EXPECT_EQ(JournalLines(header + "open"), (std::vector<std::string>{"op"}));
+  EXPECT_TRUE(JournalLines(header).empty());
+  EXPECT_TRUE(JournalLines(header + "\n").empty());
+  EXPECT_EQ(JournalLines(header + "\r\n"), (std::vector<std::string>{""}));
+  EXPECT_TRUE(JournalLines("no header\r\n\r\n").empty());
+  EXPECT_TRUE(JournalLines("").empty());
+}
+
+TEST(JournalLines, ARecordIsSplitAtItsBars) {
+  EXPECT_EQ(SplitRecord("<VORL>|/R/|a|b"), (std::vector<std::string>{"<VORL>", "/R/", "a", "b"}));
+  EXPECT_EQ(SplitRecord(""), (std::vector<std::string>{""}));
+}
+
+}  // namespace
+}  // namespace vorlane
