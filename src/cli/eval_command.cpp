@@ -1,0 +1,215 @@
+// vorlane-cli eval: evaluates one code text for one entry, or many from JSON lines.
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <optional>
+
+#include "cli/box_argument.h"
+#include "cli/command.h"
+#include "cli/given_facts.h"
+#include "cli/row_output.h"
+#include "cli/session.h"
+#include "cli/tag_json.h"
+#include "engine/process_file_name.h"
+#include "metadata/tag_reading.h"
+#include "platform/file_name_bytes.h"
+
+namespace vorlane {
+
+namespace {
+
+struct Arguments {
+  std::string Code;
+  std::string Name;
+  std::optional<std::string> Folder;
+  std::int32_t Number = 1;
+  std::int32_t Rows = 1;
+  std::vector<std::string> Boxes;
+  bool TagSteps = false;
+  bool FolderSteps = false;
+  std::string Paths;
+  bool AsJson = false;
+  bool AsJsonLines = false;
+};
+
+// One evaluation, wherever it was asked for.
+struct Question {
+  Text Code;
+  Text Name;
+  Text Folder{};
+  std::int32_t Number = 1;
+  std::int32_t Rows = 1;
+  BoxValues Boxes{};
+  bool TagSteps = false;
+  bool FolderSteps = false;
+  PathStyle Paths = HostPathStyle;
+  ID3Tag TagV1{};
+  ID3Tag TagV2{};
+};
+
+Text Answer(Question& question, EntryFacts& facts, MessageLoop& loop) {
+  EvaluationContext context{facts, loop, question.Paths};
+  return ProcessFileName({.Code = question.Code,
+                          .FileName = question.Name,
+                          .Path = question.Folder,
+                          .TagV1 = question.TagV1,
+                          .TagV2 = question.TagV2,
+                          .AutoNumber = question.Number,
+                          .AllowTagSteps = question.TagSteps,
+                          .AllowFolderSteps = question.FolderSteps,
+                          .Boxes = question.Boxes,
+                          .RowCount = question.Rows},
+                         context);
+}
+
+PathStyle StyleNamed(const std::string& name) {
+  if (name.empty()) {
+    return HostPathStyle;
+  }
+  if (name == "windows") {
+    return PathStyle::Windows;
+  }
+  if (name == "posix") {
+    return PathStyle::Posix;
+  }
+  throw CommandError(ExitStatus::Usage, "paths: expected windows or posix, not " + name);
+}
+
+// Without a folder the entry is looked for in the working folder; in the other system's style
+// there is none.
+Text FolderOf(const std::optional<Text>& folder, PathStyle style) {
+  if (folder) {
+    return EnsureTrailingSeparator(*folder, style);
+  }
+  if (style != HostPathStyle) {
+    return {};
+  }
+  std::error_code error;
+  const auto here = std::filesystem::current_path(error);
+  return EnsureTrailingSeparator(TextFromBytes(here.native()), style);
+}
+
+void ShowBox(Question& question, const BoxArgument& box) {
+  question.Boxes.Visible[box.Index] = true;
+  question.Boxes.Values[box.Index] = box.Content;
+}
+
+ExitStatus EvaluateOne(const Arguments& arguments) {
+  Session session;
+  Question question{.Code = TextFromBytes(arguments.Code),
+                    .Name = TextFromBytes(arguments.Name),
+                    .Number = arguments.Number,
+                    .Rows = arguments.Rows,
+                    .TagSteps = arguments.TagSteps,
+                    .FolderSteps = arguments.FolderSteps,
+                    .Paths = StyleNamed(arguments.Paths)};
+  std::optional<Text> folder;
+  if (arguments.Folder) {
+    folder = TextFromBytes(*arguments.Folder);
+  }
+  question.Folder = FolderOf(folder, question.Paths);
+  for (const std::string& box : arguments.Boxes) {
+    ShowBox(question, BoxArgument(box));
+  }
+  if (HasMp3Extension(question.Name)) {
+    const Text path = question.Folder + question.Name;
+    question.TagV1 = ReadID3v1(session.Files, session.Report, path);
+    question.TagV2 = ReadID3v2(session.Files, session.Report, path);
+  }
+  const Text result = Answer(question, session.Facts, session.Loop);
+  if (arguments.AsJson) {
+    std::cout << WriteJson({{"result", JsonString(result)}}) << '\n';
+  } else {
+    std::cout << PrintableName(result) << '\n';
+  }
+  return session.Status();
+}
+
+Question QuestionOf(const Json& line) {
+  Question question{.Code = TextOfJson(line.at("code").get<std::string>()),
+                    .Name = TextOfJson(line.at("name").get<std::string>()),
+                    .Number = line.value("number", std::int32_t{1}),
+                    .Rows = line.value("rows", std::int32_t{1}),
+                    .TagSteps = line.value("tagSteps", false),
+                    .FolderSteps = line.value("folderSteps", false),
+                    .Paths = StyleNamed(line.value("paths", std::string()))};
+  std::optional<Text> folder;
+  if (line.contains("folder")) {
+    folder = TextOfJson(line.at("folder").get<std::string>());
+  }
+  question.Folder = FolderOf(folder, question.Paths);
+  if (line.contains("boxes")) {
+    for (const auto& [number, text] : line.at("boxes").items()) {
+      BoxArgument box(number + "=");
+      box.Content = TextOfJson(text.get<std::string>());
+      ShowBox(question, box);
+    }
+  }
+  if (line.contains("tagV1")) {
+    question.TagV1 = TagOfJson(line.at("tagV1"));
+  }
+  if (line.contains("tagV2")) {
+    question.TagV2 = TagOfJson(line.at("tagV2"));
+  }
+  return question;
+}
+
+// A line that can't be read is told of by its number; the lines before it have been answered.
+ExitStatus EvaluateLines() {
+  Session session;
+  std::string line;
+  for (std::size_t number = 1; std::getline(std::cin, line); ++number) {
+    if (line.find_first_not_of(" \t\r") == std::string::npos) {
+      continue;
+    }
+    try {
+      const Json json = ReadJson(line);
+      Question question = QuestionOf(json);
+      GivenFacts facts(json.value("facts", Json::object()), session.Facts);
+      const Text result = Answer(question, facts, session.Loop);
+      const Json id = json.contains("id") ? json.at("id") : Json(nullptr);
+      std::cout << WriteJson({{"id", id}, {"result", JsonString(result)}}) << '\n';
+    } catch (const Json::exception& error) {
+      throw CommandError(ExitStatus::Usage, "line " + std::to_string(number) + ": " + error.what());
+    } catch (const CommandError& error) {
+      throw CommandError(error.Status(), "line " + std::to_string(number) + ": " + error.what());
+    }
+  }
+  return session.Status();
+}
+
+ExitStatus Evaluate(const Arguments& arguments, bool hasEntry) {
+  if (arguments.AsJsonLines) {
+    if (hasEntry) {
+      throw CommandError(ExitStatus::Usage, "--jsonl reads its entries from standard input");
+    }
+    return EvaluateLines();
+  }
+  if (!hasEntry) {
+    throw CommandError(ExitStatus::Usage, "CODE and NAME are required");
+  }
+  return EvaluateOne(arguments);
+}
+
+}  // namespace
+
+void AddEvalCommand(CLI::App& app, ExitStatus& status) {
+  auto arguments = std::make_shared<Arguments>();
+  CLI::App* command = app.add_subcommand("eval", "Evaluate one code text for one entry");
+  command->add_option("CODE", arguments->Code, "The code text");
+  CLI::Option* name = command->add_option("NAME", arguments->Name, "The entry's name");
+  command->add_option("--folder", arguments->Folder, "The entry's folder");
+  command->add_option("--number", arguments->Number, "What <AUTONUMBER> stands for");
+  command->add_option("--rows", arguments->Rows, "Rows of the list, for the number's width");
+  command->add_option("--box", arguments->Boxes, "N=TEXT: box N is shown and holds TEXT")
+      ->allow_extra_args(false);
+  command->add_flag("--tag-steps", arguments->TagSteps, "Evaluate steps that write tags");
+  command->add_flag("--folder-steps", arguments->FolderSteps, "Evaluate steps that make folders");
+  command->add_option("--paths", arguments->Paths, "windows or posix; this system's by default");
+  command->add_flag("--json", arguments->AsJson, "Print JSON");
+  command->add_flag("--jsonl", arguments->AsJsonLines, "Read JSON lines, print JSON lines");
+  command->callback(
+      [arguments, name, &status] { status = Evaluate(*arguments, name->count() > 0); });
+}
+
+}  // namespace vorlane

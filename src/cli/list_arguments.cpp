@@ -1,0 +1,25 @@
+#include "cli/list_arguments.h"
+
+#include "platform/file_name_bytes.h"
+
+namespace vorlane {
+
+void ListArguments::AddTo(CLI::App& command) {
+  command.add_option("FOLDER", Folder, "The folder to work on")->required();
+  command.add_option("--wildcard", Wildcard, "List only names that match, such as *.mp3");
+  command.add_flag("--recursive", Recursive, "Include sub-folders");
+  command.add_flag("--folders", Folders, "List folders instead of files");
+}
+
+void ListArguments::List(Session& session, TextView defaultWildcard) const {
+  Form& form = session.State;
+  form.CurrentPath = FolderArgument(session.Files, Folder);
+  form.WildCard = Wildcard.empty() ? Text(defaultWildcard) : TextFromBytes(Wildcard);
+  form.IncludeSubFolders = Recursive;
+  form.ListFolders = Folders;
+  form.SelectedOperation = 0;
+  session.List.PathChangedEvent();
+  session.Progress.Clear();
+}
+
+}  // namespace vorlane

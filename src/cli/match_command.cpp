@@ -1,0 +1,42 @@
+// vorlane-cli match: tries a wildcard on names.
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cli/command.h"
+#include "filelist/wildcard.h"
+#include "platform/file_name_bytes.h"
+
+namespace vorlane {
+
+namespace {
+
+struct Arguments {
+  std::string Wildcard;
+  std::vector<std::string> Names;
+};
+
+ExitStatus PrintMatches(const Arguments& arguments) {
+  bool any = false;
+  for (const std::string& name : arguments.Names) {
+    if (MatchesWildcard(TextFromBytes(name), TextFromBytes(arguments.Wildcard))) {
+      std::cout << name << '\n';
+      any = true;
+    }
+  }
+  return any ? ExitStatus::Done : ExitStatus::Refused;
+}
+
+}  // namespace
+
+void AddMatchCommand(CLI::App& app, ExitStatus& status) {
+  auto arguments = std::make_shared<Arguments>();
+  CLI::App* command = app.add_subcommand("match", "Print the names that a wildcard accepts");
+  command->add_option("WILDCARD", arguments->Wildcard, "The wildcard, as the list uses it")
+      ->required();
+  command->add_option("NAME", arguments->Names, "Names to try")->required();
+  command->callback([arguments, &status] { status = PrintMatches(*arguments); });
+}
+
+}  // namespace vorlane

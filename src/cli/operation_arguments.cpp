@@ -1,0 +1,187 @@
+#include "cli/operation_arguments.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "cli/box_argument.h"
+#include "cli/row_output.h"
+#include "platform/file_name_bytes.h"
+#include "platform/letter_case.h"
+
+namespace vorlane {
+
+namespace {
+
+// The titles from the root down to a node, joined by "/".
+Text PathOfTitles(const OperationsTree& tree, const OperationNode& node) {
+  Text path = node.Title;
+  for (std::int32_t parent = node.Parent; parent != 0;) {
+    const OperationNode& above = tree.Nodes[static_cast<std::size_t>(parent) - 1];
+    path = above.Title + u"/" + path;
+    parent = above.Parent;
+  }
+  return path;
+}
+
+}  // namespace
+
+void OperationArguments::AddTo(CLI::App& command) {
+  Entries.AddTo(command);
+  CLI::Option* operation =
+      command.add_option("--operation", Operation, "Index or path of titles, \"Case/Upper case\"");
+  CLI::Option* code =
+      command.add_option("--code", Codes, "One step of code; repeat for more steps");
+  code->allow_extra_args(false)->excludes(operation);
+  command.add_option("--catalogue", Catalogue, "Read this operations file");
+  command.add_option("--box", BoxTexts, "N=TEXT: the text typed in box N")->allow_extra_args(false);
+  command.add_option("--check", Checks, "N: tick the check box of box N")->allow_extra_args(false);
+  command.add_option("--only", Only, "Do only the row with this name")->allow_extra_args(false);
+  command.add_flag("--json", AsJson, "Print JSON");
+  command.add_flag("--all", All, "Print unchanged rows too");
+}
+
+void OperationArguments::Prepare(Session& session) const {
+  if (Operation.empty() && Codes.empty()) {
+    throw CommandError(ExitStatus::Usage, "--operation or --code is required");
+  }
+  Form& form = session.State;
+  OperationKeys keys;
+  LoadCodes(session, keys);
+  const std::int32_t operation = form.SelectedOperation;
+  Entries.List(session, keys.Wildcard.value_or(Text(u"*.*")));
+  form.SelectedOperation = operation;
+  form.DoAll = Only.empty();
+  ShowBoxes(form, keys);
+  TickChecks(form);
+  TypeBoxTexts(form);
+}
+
+void OperationArguments::LoadCodes(Session& session, OperationKeys& keys) const {
+  Form& form = session.State;
+  if (!Codes.empty()) {
+    Text code;
+    for (const std::string& step : Codes) {
+      if (step.find("\r\n") != std::string::npos) {
+        throw CommandError(ExitStatus::Usage, "--code: a step is one line");
+      }
+      code.append(u"Step:").append(TextFromBytes(step)).append(u"\r\n");
+    }
+    form.OperationCodes = {Text(), code};
+    form.SelectedOperation = 1;
+    return;
+  }
+  OperationsTree tree = CatalogueArgument(session.Files, Catalogue);
+  if (tree.Failure) {
+    PrintMessage(DescribeFailure(tree));
+  }
+  form.SelectedOperation = FindOperation(tree);
+  form.OperationCodes = std::move(tree.OperationCodes);
+  keys = ReadOperationKeys(form.SelectedCode());
+  if (keys.Failure) {
+    session.Report.ReportError(FormName, u"lstRenamingOperations_NodeClick", u"", *keys.Failure);
+  }
+}
+
+std::int32_t OperationArguments::FindOperation(const OperationsTree& tree) const {
+  std::int32_t index = 0;
+  const char* end = Operation.data() + Operation.size();
+  const auto read = std::from_chars(Operation.data(), end, index);
+  const bool isIndex = read.ec == std::errc() && read.ptr == end;
+  const Text wanted = TextFromBytes(Operation);
+  const auto find = [&](auto&& fits) {
+    const auto found = std::find_if(tree.Nodes.begin(), tree.Nodes.end(), fits);
+    return found == tree.Nodes.end() ? 0 : found->Index;
+  };
+  std::int32_t found = 0;
+  if (isIndex) {
+    found = find([&](const OperationNode& node) { return node.Index == index; });
+  } else {
+    found = find([&](const OperationNode& node) { return PathOfTitles(tree, node) == wanted; });
+    if (found == 0) {
+      found = find([&](const OperationNode& node) {
+        return EqualIgnoringCase(PathOfTitles(tree, node), wanted);
+      });
+    }
+  }
+  if (found == 0) {
+    throw CommandError(ExitStatus::NotFound, "no such operation: " + Operation);
+  }
+  if (tree.OperationCodes[static_cast<std::size_t>(found)].empty()) {
+    throw CommandError(ExitStatus::NotFound, "a heading, not an operation: " + Operation);
+  }
+  return found;
+}
+
+void OperationArguments::ShowBoxes(Form& form, const OperationKeys& keys) const {
+  for (std::size_t i = 0; i < keys.Boxes.size(); ++i) {
+    const OptionBoxKeys& from = keys.Boxes[i];
+    OptionBox& box = form.Boxes[i];
+    box.Visible = true;
+    box.Caption = from.Caption;
+    box.BoxCode = from.BoxCode;
+    box.Content = from.Remembered ? from.Remembered->Default : Text();
+    box.CheckVisible = !from.CheckCaption.empty();
+    box.Enabled = !box.CheckVisible;
+  }
+  if (!Codes.empty()) {
+    // Steps given by hand have no boxes of their own: each box that is given a text is there.
+    for (const std::string& argument : BoxTexts) {
+      form.Boxes[BoxArgument(argument).Index].Visible = true;
+    }
+  }
+}
+
+void OperationArguments::TypeBoxTexts(Form& form) const {
+  for (const std::string& argument : BoxTexts) {
+    const BoxArgument typed(argument);
+    OptionBox& box = form.Boxes[typed.Index];
+    if (!box.Visible) {
+      throw CommandError(ExitStatus::Usage,
+                         "--box " + argument + ": the operation has no such box");
+    }
+    if (box.CheckVisible && !box.Checked) {
+      throw CommandError(ExitStatus::Usage, "--box " + argument + ": the box opens by --check " +
+                                                std::to_string(typed.Index + 1));
+    }
+    box.Content = typed.Content;
+    form.BoxEdited = true;
+  }
+}
+
+void OperationArguments::TickChecks(Form& form) const {
+  for (const int number : Checks) {
+    const bool known = number >= 1 && number <= OptionBoxCount;
+    if (!known || !form.Boxes[static_cast<std::size_t>(number) - 1].CheckVisible) {
+      throw CommandError(ExitStatus::Usage,
+                         "--check " + std::to_string(number) + ": that box has no check box");
+    }
+    OptionBox& box = form.Boxes[static_cast<std::size_t>(number) - 1];
+    box.Checked = true;
+    box.Enabled = true;
+  }
+}
+
+std::vector<std::int32_t> OperationArguments::OnlyRows(const Form& form) const {
+  std::vector<std::int32_t> rows;
+  for (const std::string& name : Only) {
+    const Text wanted = TextFromBytes(name);
+    const auto before = rows.size();
+    for (std::int32_t row = 1; row <= form.Rows.Count(); ++row) {
+      if (form.Rows.At(row).Name == wanted) {
+        rows.push_back(row);
+      }
+    }
+    if (rows.size() == before) {
+      throw CommandError(ExitStatus::NotFound, "not in the list: " + name);
+    }
+  }
+  return rows;
+}
+
+void OperationArguments::SelectRow(Session& session, std::int32_t row) const {
+  session.State.SelectRow(row);
+  session.List.lstFileListItemClick();
+  TypeBoxTexts(session.State);
+}
+
+}  // namespace vorlane

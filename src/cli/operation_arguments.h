@@ -1,0 +1,45 @@
+// The arguments of preview and apply: what is listed, which operation, and what its boxes hold.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "catalogue/operation_keys.h"
+#include "cli/list_arguments.h"
+#include "cli/session.h"
+
+namespace vorlane {
+
+struct OperationArguments {
+  ListArguments Entries;
+  std::string Operation;
+  std::vector<std::string> Codes;
+  std::string Catalogue;
+  std::vector<std::string> BoxTexts;  // "N=TEXT"
+  std::vector<int> Checks;
+  std::vector<std::string> Only;
+  bool AsJson = false;
+  bool All = false;
+
+  void AddTo(CLI::App& command);
+
+  // Lists the folder and selects the operation, all boxes as the arguments want them.
+  // Throws CommandError.
+  void Prepare(Session& session) const;
+
+  // The rows that --only names, in its order. Throws CommandError (NotFound) for a name that isn't
+  // listed.
+  std::vector<std::int32_t> OnlyRows(const Form& form) const;
+
+  // Selects the row as a click does, and types the box texts again.
+  void SelectRow(Session& session, std::int32_t row) const;
+
+ private:
+  std::int32_t FindOperation(const OperationsTree& tree) const;
+  void LoadCodes(Session& session, OperationKeys& keys) const;
+  void ShowBoxes(Form& form, const OperationKeys& keys) const;
+  void TypeBoxTexts(Form& form) const;
+  void TickChecks(Form& form) const;
+};
+
+}  // namespace vorlane

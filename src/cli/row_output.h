@@ -1,0 +1,29 @@
+// How a row of the list is printed.
+#pragma once
+
+#include <string>
+
+#include "cli/json_text.h"
+#include "form/form.h"
+
+namespace vorlane {
+
+// Name and folder as bytes on disk, so that what is printed can be used as a name again.
+std::string PrintableName(TextView name);
+
+// The row as the list shows it: row, folder, name, proposed, marker, artist, title, id3v1, id3v2,
+// readOnly. A marker stands in "marker", and "proposed" is then empty.
+Json RowJson(const Form& form, std::int32_t row);
+
+// Prints a document that is a list, one element a line.
+class JsonListPrinter {
+ public:
+  JsonListPrinter();
+  void Add(const Json& element);
+  void Finish();
+
+ private:
+  bool first_ = true;
+};
+
+}  // namespace vorlane
