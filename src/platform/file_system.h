@@ -97,6 +97,10 @@ class FileSystem {
 
   virtual EntryStatus StatusOf(TextView path) = 0;
 
+  // The same but for ReadOnly, which takes a further question to the system and stays false where
+  // that is saved. The existence tests, asked for row after row, need no more.
+  virtual EntryStatus PresenceOf(TextView path) { return StatusOf(path); }
+
   // True if the exact name exists, whatever it is: a link that leads nowhere too.
   virtual bool NameExists(TextView path) = 0;
 

@@ -178,6 +178,22 @@ TEST_P(FileSystemContract, StatusFollowsLinks) {
   EXPECT_FALSE(files_.StatusOf(P(u"to .hidden")).Hidden);
 }
 
+TEST_P(FileSystemContract, PresenceIsStatusButForReadOnly) {
+  MakeOneOfEach();
+  std::vector<Text> names(std::begin(EachKind), std::end(EachKind));
+  names.insert(names.end(), std::begin(ImpossibleNames), std::end(ImpossibleNames));
+  names.insert(names.end(), {u"missing", u"file/", u"folder/", u".", u".."});
+  for (const Text& name : names) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    const auto presence = files_.PresenceOf(P(name));
+    const auto status = files_.StatusOf(P(name));
+    EXPECT_EQ(presence.Kind, status.Kind);
+    EXPECT_EQ(presence.Hidden, status.Hidden);
+    EXPECT_EQ(presence.Size, status.Size);
+  }
+  EXPECT_EQ(files_.PresenceOf(u"").Kind, EntryKind::None);
+}
+
 TEST_P(FileSystemContract, EveryKindTakesItsName) {
   MakeOneOfEach();
   for (const Text& name : EachKind) {
@@ -537,7 +553,8 @@ TEST_P(FileSystemContract, AppendsToAFileThatIsThere) {
       {u"missing", 53}, {u"folder", 75}, {u"link", 75}, {u"dangling", 75}, {u"other", 75},
   };
   for (const auto& [name, number] : failures) {
-    EXPECT_EQ(FailureOf([&] { files_.AppendToFile(P(name), "x"); }), number)
+    const Text path = P(name);
+    EXPECT_EQ(FailureOf([&] { files_.AppendToFile(path, "x"); }), number)
         << testing::PrintToString(name);
   }
   for (const Text& name : ImpossibleNames) {
