@@ -30,8 +30,8 @@ std::optional<std::size_t> FindNuls(std::string_view tag, std::size_t count) {
 
 std::string& ReplaceFrame(std::string& tag, std::string_view id, std::string_view text) {
   if (const auto found = FindFrame(tag, id)) {
-    const int oldLength = TextLengthAt(tag, *found + FrameSizeOffset);
-    const auto oldFrame = static_cast<std::size_t>(static_cast<int>(FrameTextOffset) + oldLength);
+    const int oldText = TextLengthAt(tag, *found + FrameSizeOffset);  // -1 takes a byte less
+    const std::size_t oldFrame = FrameTextOffset + static_cast<std::size_t>(oldText + 1) - 1;
     tag.replace(*found, oldFrame, CheckedFrame(id, text));
   } else if (const auto room = FindNuls(tag, text.size() + FrameTextOffset)) {
     tag.replace(*room, text.size() + FrameTextOffset, CheckedFrame(id, text));
