@@ -3,21 +3,21 @@
 namespace vorlane {
 
 bool PlainFileExists(FileSystem& files, TextView path) {
-  const auto status = files.StatusOf(path);
+  const auto status = files.PresenceOf(path);
   return status.Kind == EntryKind::File && !status.Hidden;
 }
 
 bool EntryExists(FileSystem& files, TextView path) {
-  const auto status = files.StatusOf(path);
+  const auto status = files.PresenceOf(path);
   return (status.Kind == EntryKind::File || status.Kind == EntryKind::Folder) && !status.Hidden;
 }
 
 bool FolderExists(FileSystem& files, TextView path) {
-  return files.StatusOf(path).Kind == EntryKind::Folder;
+  return files.PresenceOf(path).Kind == EntryKind::Folder;
 }
 
 bool HiddenFileExists(FileSystem& files, TextView path) {
-  return files.StatusOf(path).Kind == EntryKind::File;
+  return files.PresenceOf(path).Kind == EntryKind::File;
 }
 
 }  // namespace vorlane

@@ -51,7 +51,7 @@ struct FileIdentity {
 struct FolderEntry {
   Text Name;
   EntryStatus Status;
-  FileIdentity Identity;  // of what the entry leads to
+  FileIdentity Identity;  // of what the entry leads to; zero if that is nothing
   bool IsLink = false;    // a symbolic link; Status tells what it leads to
 };
 
@@ -96,6 +96,10 @@ class FileSystem {
   virtual ~FileSystem() = default;
 
   virtual EntryStatus StatusOf(TextView path) = 0;
+
+  // The same but for ReadOnly, which takes a further question to the system and stays false where
+  // that is saved. The existence tests, asked for row after row, need no more.
+  virtual EntryStatus PresenceOf(TextView path) { return StatusOf(path); }
 
   // True if the exact name exists, whatever it is: a link that leads nowhere too.
   virtual bool NameExists(TextView path) = 0;

@@ -125,7 +125,7 @@ class PosixOpenFile final : public OpenFile {
 
 std::string PosixFileSystem::ReadFileBytes(TextView path) {
   const auto file = OpenOrThrow(path, O_RDONLY);
-  return ReadBytes(file.Handle.Descriptor(), 0, static_cast<std::uint64_t>(file.Status.st_size));
+  return ReadBytes(file.Handle.Descriptor(), 0, file.Size);
 }
 
 std::unique_ptr<OpenFile> PosixFileSystem::Open(TextView path, OpenMode mode) {
@@ -159,17 +159,18 @@ void PosixFileSystem::CreateFile(TextView path, std::string_view bytes) {
 void PosixFileSystem::AppendToFile(TextView path, std::string_view bytes) {
   auto file = OpenOrThrow(path, O_WRONLY | O_APPEND | O_NOFOLLOW);
   const int descriptor = file.Handle.Descriptor();
+  const auto oldSize = static_cast<off_t>(file.Size);
   const ssize_t count =
       Uninterrupted([&] { return write(descriptor, bytes.data(), bytes.size()); });
   if (count != static_cast<ssize_t>(bytes.size())) {
     // The system says why only if nothing at all was written; a part means that there was no room.
     const int error = count < 0 ? errno : ENOSPC;
-    std::ignore = ftruncate(descriptor, file.Status.st_size);
+    std::ignore = ftruncate(descriptor, oldSize);
     ThrowErrno(error);
   }
   const int error = file.Handle.Close();
   if (error != 0) {
-    std::ignore = truncate(BytesFromText(path)->c_str(), file.Status.st_size);
+    std::ignore = truncate(BytesFromText(path)->c_str(), oldSize);
     ThrowErrno(error);
   }
 }

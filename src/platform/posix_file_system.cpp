@@ -21,7 +21,18 @@ EntryStatus PosixFileSystem::StatusOf(TextView path) {
   if (!bytes || stat(bytes->c_str(), &status) != 0) {
     return {};
   }
-  return MakeStatus(AT_FDCWD, bytes->c_str(), status, IsHiddenPath(path));
+  auto result = MakePresence(status, IsHiddenPath(path));
+  result.ReadOnly = IsReadOnly(AT_FDCWD, bytes->c_str(), status);
+  return result;
+}
+
+EntryStatus PosixFileSystem::PresenceOf(TextView path) {
+  const auto bytes = BytesFromText(path);
+  struct stat status {};
+  if (!bytes || stat(bytes->c_str(), &status) != 0) {
+    return {};
+  }
+  return MakePresence(status, IsHiddenPath(path));
 }
 
 bool PosixFileSystem::NameExists(TextView path) {

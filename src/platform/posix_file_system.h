@@ -6,7 +6,8 @@
 namespace vorlane {
 
 // Names are bytes, exact, case-sensitive unless the mounted file system says otherwise. Every file
-// is opened O_NONBLOCK and only after a look at its kind, so a pipe can't stall the program.
+// is opened O_NONBLOCK, so a pipe can't stall the program, and only after a look at its kind.
+// (IsFileInUse, asked for each row of a list of files, looks behind the opening only.)
 // RenameNoReplace is renameat2(RENAME_NOREPLACE). Where the file system doesn't offer that: a file
 // by link and unlink; a folder, or where there are no hard links, by a look at the target and a
 // rename, which leaves a moment in which another program could put a file there.
@@ -18,6 +19,7 @@ class PosixFileSystem : public FileSystem {
   PosixFileSystem();
 
   EntryStatus StatusOf(TextView path) override;
+  EntryStatus PresenceOf(TextView path) override;
   bool NameExists(TextView path) override;
   std::optional<FileIdentity> IdentityOf(TextView path) override;
   std::vector<FolderEntry> ListFolder(TextView folder) override;

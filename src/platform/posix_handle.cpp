@@ -1,5 +1,6 @@
 #include "platform/posix_handle.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -12,26 +13,34 @@ int FileHandle::Close() {
   return descriptor < 0 || close(descriptor) == 0 || errno == EINTR ? 0 : errno;
 }
 
+namespace {
+
+// 0 or errno. The kind and the size are all that is asked: once a program has asked for the times
+// of a file, the next write to it costs the system more.
+int LookAtRegularFile(int descriptor, const char* path, int flags, std::uint64_t& size) {
+  struct statx status {};
+  if (statx(descriptor, path, flags, STATX_TYPE | STATX_SIZE, &status) != 0) {
+    return errno;
+  }
+  size = status.stx_size;
+  return S_ISREG(status.stx_mode) ? 0 : EINVAL;
+}
+
+}  // namespace
+
 OpenedFile OpenRegularFile(const std::string& path, int flags) {
   OpenedFile file;
-  const auto failed = [&file](int error) {
-    file.Handle.Close();
-    file.Error = error;
-    return std::move(file);
-  };
   const int follow = (flags & O_NOFOLLOW) != 0 ? AT_SYMLINK_NOFOLLOW : 0;
-  if (fstatat(AT_FDCWD, path.c_str(), &file.Status, follow) != 0) {
-    return failed(errno);
+  file.Error = LookAtRegularFile(AT_FDCWD, path.c_str(), follow, file.Size);
+  if (file.Error != 0) {
+    return file;
   }
-  if (!S_ISREG(file.Status.st_mode)) {
-    return failed(EINVAL);
-  }
-  file.Handle = FileHandle(open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (!file.Handle.IsOpen() || fstat(file.Handle.Descriptor(), &file.Status) != 0) {
-    return failed(errno);
-  }
-  if (!S_ISREG(file.Status.st_mode)) {
-    return failed(EINVAL);
+  FileHandle handle(open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  file.Error = handle.IsOpen()
+                   ? LookAtRegularFile(handle.Descriptor(), "", AT_EMPTY_PATH, file.Size)
+                   : errno;
+  if (file.Error == 0) {
+    file.Handle = std::move(handle);
   }
   return file;
 }

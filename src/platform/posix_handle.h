@@ -3,8 +3,8 @@
 #pragma once
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
+#include <cstdint>
 #include <string>
 #include <utility>
 
@@ -35,9 +35,9 @@ class FileHandle {
 };
 
 struct OpenedFile {
-  FileHandle Handle;      // not open after a failure
-  struct stat Status {};  // of the open file
-  int Error = 0;          // the errno of a failure
+  FileHandle Handle;       // not open after a failure
+  std::uint64_t Size = 0;  // of the open file
+  int Error = 0;           // the errno of a failure
 };
 
 // Opens what exists and is a regular file. It is looked at before it is opened, because opening a

@@ -2,6 +2,7 @@
 // somebody who merely reads it isn't hurt by a rename.
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 
@@ -30,6 +31,11 @@ bool IsOpenForWriting(int descriptor) {
   return fcntl(descriptor, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN;
 }
 
+bool IsRegularFile(int descriptor) {
+  struct stat status {};
+  return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+}
+
 }  // namespace
 
 bool PosixFileSystem::IsFileInUse(TextView path) {
@@ -37,14 +43,14 @@ bool PosixFileSystem::IsFileInUse(TextView path) {
   if (!bytes) {
     return false;
   }
-  const auto file = OpenRegularFile(*bytes, O_RDONLY);
-  if (!file.Handle.IsOpen()) {
+  const FileHandle file(open(bytes->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (!file.IsOpen() || !IsRegularFile(file.Descriptor())) {
     return false;
   }
   // Closing the descriptor gives back what these take. The lease comes last, since a writer who
   // comes by has to wait as long as we have it.
-  const int descriptor = file.Handle.Descriptor();
-  return HasFlockLock(descriptor) || HasFcntlLock(descriptor) || IsOpenForWriting(descriptor);
+  return HasFlockLock(file.Descriptor()) || HasFcntlLock(file.Descriptor()) ||
+         IsOpenForWriting(file.Descriptor());
 }
 
 }  // namespace vorlane

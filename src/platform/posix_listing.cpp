@@ -70,7 +70,8 @@ bool LookAt(int folder, const char* name, FolderEntry& entry) {
   if (entry.IsLink && fstatat(folder, name, &status, 0) != 0) {
     return true;
   }
-  entry.Status = MakeStatus(folder, name, status, IsHiddenPath(entry.Name));
+  entry.Status = MakePresence(status, IsHiddenPath(entry.Name));
+  entry.Status.ReadOnly = IsReadOnly(folder, name, status);
   entry.Identity = MakeIdentity(status);
   return true;
 }

@@ -26,15 +26,18 @@ bool IsHiddenPath(TextView path) {
   return name == JournalName || (name.front() == u'.' && name != u"." && name != u"..");
 }
 
-EntryStatus MakeStatus(int folder, const char* name, const struct stat& status, bool hidden) {
-  // The mode is asked too, because the access test lets the superuser through whatever it says.
-  const bool nobodyMayWrite = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+EntryStatus MakePresence(const struct stat& status, bool hidden) {
   EntryStatus result;
   result.Kind = KindOf(status.st_mode);
   result.Hidden = hidden;
-  result.ReadOnly = nobodyMayWrite || faccessat(folder, name, W_OK, AT_EACCESS) != 0;
   result.Size = S_ISREG(status.st_mode) ? static_cast<std::uint64_t>(status.st_size) : 0;
   return result;
+}
+
+bool IsReadOnly(int folder, const char* name, const struct stat& status) {
+  // The mode is asked too, because the access test lets the superuser through whatever it says.
+  const bool nobodyMayWrite = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+  return nobodyMayWrite || faccessat(folder, name, W_OK, AT_EACCESS) != 0;
 }
 
 FileIdentity MakeIdentity(const struct stat& status) {

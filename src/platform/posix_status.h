@@ -10,9 +10,11 @@ namespace vorlane {
 // `path` ends in a bare name; a separator behind that changes nothing.
 bool IsHiddenPath(TextView path);
 
-// `name` is relative to the open folder `folder`, or a whole path with AT_FDCWD; it is needed to
-// ask whether this process may write there.
-EntryStatus MakeStatus(int folder, const char* name, const struct stat& status, bool hidden);
+// ReadOnly left out.
+EntryStatus MakePresence(const struct stat& status, bool hidden);
+
+// `name` is relative to the open folder `folder`, or a whole path with AT_FDCWD.
+bool IsReadOnly(int folder, const char* name, const struct stat& status);
 
 FileIdentity MakeIdentity(const struct stat& status);
 

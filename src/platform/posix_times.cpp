@@ -1,12 +1,12 @@
 // The times of a file.
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/file_name_bytes.h"
 #include "platform/posix_file_system.h"
-#include "platform/posix_handle.h"
 
 namespace vorlane {
 
@@ -28,10 +28,9 @@ std::optional<FileTimes> PosixFileSystem::TimesOf(TextView path) {
   if (!bytes) {
     return std::nullopt;
   }
-  const auto file = OpenRegularFile(*bytes, O_RDONLY);
   struct statx times {};
-  if (!file.Handle.IsOpen() || statx(file.Handle.Descriptor(), "", AT_EMPTY_PATH,
-                                     STATX_BASIC_STATS | STATX_BTIME, &times) != 0) {
+  if (statx(AT_FDCWD, bytes->c_str(), 0, STATX_BASIC_STATS | STATX_BTIME, &times) != 0 ||
+      !S_ISREG(times.stx_mode) || faccessat(AT_FDCWD, bytes->c_str(), R_OK, AT_EACCESS) != 0) {
     return std::nullopt;
   }
   const bool hasCreated = (times.stx_mask & STATX_BTIME) != 0;

@@ -178,6 +178,22 @@ TEST_P(FileSystemContract, StatusFollowsLinks) {
   EXPECT_FALSE(files_.StatusOf(P(u"to .hidden")).Hidden);
 }
 
+TEST_P(FileSystemContract, PresenceIsStatusButForReadOnly) {
+  MakeOneOfEach();
+  std::vector<Text> names(std::begin(EachKind), std::end(EachKind));
+  names.insert(names.end(), std::begin(ImpossibleNames), std::end(ImpossibleNames));
+  names.insert(names.end(), {u"missing", u"file/", u"folder/", u".", u".."});
+  for (const Text& name : names) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    const auto presence = files_.PresenceOf(P(name));
+    const auto status = files_.StatusOf(P(name));
+    EXPECT_EQ(presence.Kind, status.Kind);
+    EXPECT_EQ(presence.Hidden, status.Hidden);
+    EXPECT_EQ(presence.Size, status.Size);
+  }
+  EXPECT_EQ(files_.PresenceOf(u"").Kind, EntryKind::None);
+}
+
 TEST_P(FileSystemContract, EveryKindTakesItsName) {
   MakeOneOfEach();
   for (const Text& name : EachKind) {
@@ -231,9 +247,9 @@ TEST_P(FileSystemContract, AListingTellsAllOfEachEntry) {
     EXPECT_EQ(entries[i].Status.Size, expected[i].Size);
     EXPECT_EQ(entries[i].Status.Hidden, expected[i].Hidden);
     EXPECT_EQ(entries[i].IsLink, expected[i].IsLink);
-    if (!expected[i].LeadsTo.empty()) {
-      EXPECT_EQ(entries[i].Identity, files_.IdentityOf(P(expected[i].LeadsTo)));
-    }
+    EXPECT_EQ(entries[i].Identity, expected[i].LeadsTo.empty()
+                                       ? FileIdentity()
+                                       : files_.IdentityOf(P(expected[i].LeadsTo)));
   }
 }
 

@@ -70,6 +70,19 @@ TEST_F(PosixInUse, LockedForWritingByFcntlElsewhere) {
   EXPECT_TRUE(IsInUse());
 }
 
+TEST_F(PosixInUse, OnlyFilesAre) {
+  folder_.MakeFolder("folder");
+  ASSERT_EQ(mkfifo((folder_.Path() + "pipe").c_str(), 0600), 0);
+  const OtherProcess holder([&] {
+    const auto isLocked = [this](const char* name) {
+      return flock(open((folder_.Path() + name).c_str(), O_RDONLY | O_NONBLOCK), LOCK_EX) == 0;
+    };
+    return isLocked("folder") && isLocked("pipe");
+  });
+  EXPECT_FALSE(IsInUse("folder"));
+  EXPECT_FALSE(IsInUse("pipe"));
+}
+
 TEST_F(PosixInUse, SeenThroughALink) {
   ASSERT_EQ(symlink("file", (folder_.Path() + "link").c_str()), 0);
   const OtherProcess writer([&] { return open(path_.c_str(), O_WRONLY) >= 0; });

@@ -98,6 +98,28 @@ INSTANTIATE_TEST_SUITE_P(EachDisk, RenameWhereCaseMatters,
                          testing::Values(MakeRealDisk, MakeRealDiskWithoutAtomicRename,
                                          MakeRealDiskWithoutLinks, MakeMemoryDisk));
 
+TEST(Rename, HardLinksAreToldApartBeforeAnythingIsTouched) {
+  MemoryFileSystem files;
+  files.Write(u"/m/A.txt", "content");
+  files.MakeHardLink(u"/m/a.txt", u"/m/A.txt");
+  EXPECT_EQ(RenameWithinFolder(files, Folder, u"A.txt", u"a.txt"), RenameOutcome::TargetExists);
+  EXPECT_EQ(files.MutationCount, 1U);
+}
+
+TEST(Rename, ATwinThatGoesMeanwhileIsStillAnotherEntry) {
+  MemoryFileSystem files;
+  files.Write(u"/m/A.txt", "upper");
+  files.Write(u"/m/a.txt", "lower");
+  files.BeforeCall = [&files](const CallInfo& call) {
+    if (call.Method == u"ListNames") {
+      files.Remove(u"/m/a.txt");
+    }
+  };
+  EXPECT_EQ(RenameWithinFolder(files, Folder, u"A.txt", u"a.txt"), RenameOutcome::TargetExists);
+  EXPECT_TRUE(files.Exists(u"/m/A.txt"));
+  EXPECT_EQ(files.MutationCount, 1U);
+}
+
 class RenameIgnoringCase : public testing::Test {
  protected:
   RenameIgnoringCase() { files_.Write(u"/m/A.txt", "content"); }
@@ -131,6 +153,7 @@ TEST_F(RenameIgnoringCase, TheTemporaryNameIsFresh) {
 TEST_F(RenameIgnoringCase, TwoNamesThatDifferByMoreThanCaseAreTwoEntries) {
   files_.MakeHardLink(u"/m/b.txt", u"/m/A.txt");
   EXPECT_EQ(RenameWithinFolder(files_, Folder, u"A.txt", u"B.TXT"), RenameOutcome::TargetExists);
+  EXPECT_EQ(files_.MutationCount, 1U);
   EXPECT_EQ(files_.Contents(Folder), (Contents{{"A.txt", "content"}, {"b.txt", "content"}}));
 }
 

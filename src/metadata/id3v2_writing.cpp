@@ -1,0 +1,166 @@
+#include <algorithm>
+#include <new>
+
+#include "metadata/byte_text.h"
+#include "metadata/id3v1.h"
+#include "metadata/id3v2_frame.h"
+#include "metadata/id3v2_writer.h"
+#include "metadata/in_place.h"
+#include "metadata/tag_reading.h"
+#include "metadata/tag_writing.h"
+
+namespace vorlane {
+
+namespace {
+
+// A header that promises more than this beyond the end of the file is broken; less is taken as it
+// stands, with NULs for what is missing.
+constexpr std::uint64_t LargestExcess = std::uint64_t{1} << 20;
+
+std::string ReadOldTag(OpenFile& file, std::int32_t declaredSize) {
+  const auto size = static_cast<std::uint64_t>(declaredSize);
+  const std::uint64_t fileSize = file.Size();
+  if (size == 0)
+    throw RunError(ErrorNumber::SubscriptOutOfRange);
+  if (size > fileSize + LargestExcess)
+    throw RunError(ErrorNumber::PastEndOfFile);
+  return PaddedWithNuls(ReadExactly(file, 0, std::min(size, fileSize)),
+                        static_cast<std::size_t>(size));
+}
+
+// The old tag gives way to one of the same size, and the file loses its last `dropped` bytes.
+InPlaceChange ExchangeStart(OpenFile& file, const std::string& oldTag, const std::string& newTag,
+                            std::uint64_t dropped) {
+  InPlaceChange change;
+  change.OldSize = file.Size();
+  if (newTag != oldTag) {
+    change.NewBytes = newTag;
+    change.OldBytes = oldTag;
+  }
+  change.NewSize = std::max<std::uint64_t>(change.OldSize, change.NewBytes.size()) - dropped;
+  if (change.NewBytes.size() > change.NewSize) {
+    change.NewBytes.resize(static_cast<std::size_t>(change.NewSize));
+  }
+  if (change.OldBytes.size() > change.OldSize) {
+    change.OldBytes.resize(static_cast<std::size_t>(change.OldSize));
+  }
+  return change;
+}
+
+// The first `oldLength` bytes give way to a longer tag, and the file loses its last `dropped`
+// bytes: what is between them moves up. Throws RunError 5 if they overlap.
+InPlaceChange MoveRest(OpenFile& file, const std::string& newTag, std::uint64_t oldLength,
+                       std::uint64_t dropped) {
+  InPlaceChange change;
+  change.OldSize = file.Size();
+  if (dropped > 0 && oldLength + dropped > change.OldSize) {
+    throw RunError(ErrorNumber::InvalidArgument);
+  }
+  change.OldBytes = ReadExactly(file, 0, change.OldSize);
+  const std::uint64_t from = std::min(oldLength, change.OldSize);
+  change.NewBytes.reserve(newTag.size() + change.OldBytes.size());
+  change.NewBytes = newTag;
+  change.NewBytes.append(change.OldBytes, static_cast<std::size_t>(from),
+                         static_cast<std::size_t>(change.OldSize - dropped - from));
+  change.NewSize = change.NewBytes.size();
+  return change;
+}
+
+class ID3v2Change {
+ public:
+  ID3v2Change(FileSystem& files, FailureReport& report, StatusLine& status, TextView path,
+              const ID3Tag& tag, bool removeID3v1)
+      : files_(files),
+        report_(report),
+        status_(status),
+        path_(path),
+        tag_(tag),
+        removeID3v1_(removeID3v1) {}
+
+  void Run() {
+    const auto file = files_.Open(path_, OpenMode::ReadWrite);
+    const std::string header = file->ReadAt(0, TagHeaderLength);
+    if (HasID3v2Header(header)) {
+      Update(*file, DeclaredTagSize(header));
+    } else {
+      Add(*file);
+    }
+  }
+
+ private:
+  std::uint64_t BytesToDrop() {
+    return removeID3v1_ && ReadID3v1(files_, report_, path_).Present ? ID3v1Length : 0;
+  }
+
+  void Update(OpenFile& file, std::int32_t declaredSize) {
+    const std::string oldTag = ReadOldTag(file, declaredSize);
+    const std::string newTag = UpdatedID3v2(oldTag, tag_);
+    const bool grown = newTag.size() > oldTag.size();
+    const std::uint64_t dropped = BytesToDrop();
+    if (dropped > 0) {
+      status_.SetStatus(u"ID3v2 exists, ID3v1 exists, loading file...", 33);
+    } else if (grown) {
+      status_.SetStatus(
+          u"ID3v2 exists but is too small, incresing size of ID3v2, ID3v1 kept or does not exist, "
+          u"rewriting file...",
+          50);
+    } else {
+      status_.SetStatus(u"ID3v2 exists, ID3v1 kept or does not exist, updating file...", 50);
+    }
+    const InPlaceChange change = grown ? MoveRest(file, newTag, oldTag.size(), dropped)
+                                       : ExchangeStart(file, oldTag, newTag, dropped);
+    if (dropped > 0)
+      status_.SetStatus(u"ID3v2 exists, ID3v1 removed, rewriting file...", 66);
+    ChangeInPlace(file, change);
+  }
+
+  void Add(OpenFile& file) {
+    const std::string newTag = NewID3v2(tag_);
+    const std::uint64_t dropped = BytesToDrop();
+    status_.SetStatus(dropped > 0
+                          ? u"ID3v2 does not exist, ID3v1 exists, loading file..."
+                          : u"ID3v2 does not exist, ID3v1 kept or does not exist, loading file...",
+                      33);
+    const InPlaceChange change = MoveRest(file, newTag, 0, dropped);
+    status_.SetStatus(
+        dropped > 0 ? u"ID3v2 does not exist, ID3v1 removed, rewriting file..."
+                    : u"ID3v2 does not exist, ID3v1 kept or does not exist, rewriting file...",
+        66);
+    ChangeInPlace(file, change);
+  }
+
+  FileSystem& files_;
+  FailureReport& report_;
+  StatusLine& status_;
+  TextView path_;
+  const ID3Tag& tag_;
+  bool removeID3v1_;
+};
+
+}  // namespace
+
+void WriteID3v2OrFail(FileSystem& files, FailureReport& report, StatusLine& status, TextView path,
+                      const ID3Tag& tag, bool removeID3v1) {
+  try {
+    ID3v2Change(files, report, status, path, tag, removeID3v1).Run();
+  } catch (const std::bad_alloc&) {
+    // The whole file must fit in memory. It is read before anything is written.
+    throw RunError(ErrorNumber::OutOfMemory);
+  }
+  status.SetStatus(u"Ready", 100);
+}
+
+void WriteID3v2(const ID3v2Services& services, TextView path, const ID3Tag& tag, bool removeID3v1) {
+  try {
+    WriteID3v2OrFail(services.Files, services.Report, services.Status, path, tag, removeID3v1);
+  } catch (const RunError& error) {
+    Text message = error.Description();
+    if (error.Number() == static_cast<int>(ErrorNumber::InvalidArgument)) {
+      message += u"\n\nThe ID3 Tag is probably invalid";
+    }
+    services.Boxes.Show(BoxIcon::Exclamation, u"Error number: " + DecimalText(error.Number()),
+                        message);
+  }
+}
+
+}  // namespace vorlane

@@ -1,0 +1,26 @@
+// What an MP3 file says about itself. Three operations that read a file and change nothing.
+//
+// They don't look at the extension; that is for their callers. A file that isn't there, a hidden
+// one included, gives the empty result silently; so does one without a tag or an audio frame. Any
+// failure is reported under the operation's name with the file's name, and gives the empty result.
+// Each opens the file once and closes it before it returns.
+#pragma once
+
+#include <cstdint>
+
+#include "metadata/id3_tag.h"
+#include "platform/failure.h"
+#include "platform/file_system.h"
+
+namespace vorlane {
+
+// Reads the last 128 bytes.
+ID3Tag ReadID3v1(FileSystem& files, FailureReport& report, TextView path);
+
+// Reads ten bytes and, if there is a tag, no further than ID3v2ReadLength tells.
+ID3Tag ReadID3v2(FileSystem& files, FailureReport& report, TextView path);
+
+// In kbit/s. Reads the first 10,003 bytes.
+std::int16_t GetKbit(FileSystem& files, FailureReport& report, TextView path);
+
+}  // namespace vorlane
