@@ -13,7 +13,8 @@ namespace {
 
 using namespace vorlane;
 
-constexpr std::size_t MostEntries = 2 * 65535;
+// Two directories.
+constexpr std::size_t MostEntries = std::size_t{2} * 65535;
 
 void Require(bool promise) {
   if (!promise) {
@@ -29,15 +30,15 @@ std::optional<ExifContents> Parse(std::string_view bytes) {
 }
 
 void CheckEntries(const ExifContents& contents) {
-  Require(contents.Tags.size() <= MostEntries);
+  std::size_t entries = 0;
   for (const ExifTag& entry : contents.Tags) {
-    if (entry.Tag == 0 && entry.Format == 0 && entry.Text == u"0") {
-      continue;  // from behind the head; there may be thousands
-    }
+    Require(entry.Times > 0);
+    entries += static_cast<std::size_t>(entry.Times);
     Require(entry.Name == clsEXIF::GetTagName(entry.Tag));
     Require(entry.Text.size() <= ExifHeadLength && !Contains(entry.Text, TextView(u"\0", 1)));
     Require(entry.Tag <= 0xFFFF && entry.Format <= 0xFFFF && entry.Count >= 0);
   }
+  Require(entries <= MostEntries);
 }
 
 }  // namespace
