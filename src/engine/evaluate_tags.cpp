@@ -129,7 +129,9 @@ void Rewriting::FinishTag(Text inner) {
   state_.Inner = std::move(inner);
   EvaluateFunction(tag.Name, state_.Inner, evaluation_.Entry, evaluation_.Context, state_.Values);
   Attempt([&] {
-    const Text expression = Text(tag.Opening).append(state_.SavedInner).append(tag.Closing);
+    Text expression;
+    expression.reserve(tag.Opening.size() + state_.SavedInner.size() + tag.Closing.size());
+    expression.append(tag.Opening).append(state_.SavedInner).append(tag.Closing);
     if (ReplaceEvery(state_.Code, expression, state_.Values.Result)) {
       CodeChanged();
     }

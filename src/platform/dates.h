@@ -15,7 +15,8 @@ struct DateTime {
   std::int32_t Days = 0;     // days since 1899-12-30; 0 means that there is no date part
   std::int32_t Seconds = 0;  // seconds since midnight, 0 to 86399
 
-  auto operator<=>(const DateTime&) const = default;
+  // The check takes the 0 that a comparison is made with for a pointer.
+  auto operator<=>(const DateTime&) const = default;  // NOLINT(modernize-use-nullptr)
 
   DateTime DatePart() const { return {Days, 0}; }
   DateTime TimePart() const { return {0, Seconds}; }
