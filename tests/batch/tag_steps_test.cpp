@@ -224,7 +224,7 @@ TEST(TagSteps, OnAnotherKindOfFileAreLookedAtAsFolderStepsAndSkipped) {
   EXPECT_TRUE(on.Disk.Exists(u"/R/y"));
 }
 
-TEST(TagSteps, RunThoughTheRowIsReadOnlyByItsMarker) {
+TEST(TagSteps, RunThoughAMarkerKeepsTheNameFromChanging) {
   SongWorld on(TaggedV1());
   on.World.SelectSteps({u"<RemoveID3v1>", u"new<EXTONLY>"});
   on.Disk.SetInUse(Song);
@@ -266,13 +266,12 @@ TEST(TagSteps, ARefusedRenameGluesTheNextRecordToTheOpenLine) {
   EXPECT_EQ(on.Disk.Read(u"/R/a.mp3"), Audio(500));
 }
 
-TEST(TagSteps, TheRecordsOfTheLastMp3RowReachLaterRows) {
+TEST(TagSteps, ATagKeywordOnAnotherKindOfFileStays) {
   SongWorld on(TaggedV1(), u"a.mp3");
   on.Disk.Write(u"/R/b.txt", "text");
   on.World.ListAll(u"/R/");
   on.Run({u"<CREATEFOLDER><NAMEONLY> <ARTIST></CREATEFOLDER>"});
   EXPECT_TRUE(on.Disk.Exists(u"/R/a Artist"));
-  // On a file that isn't MP3 the keyword stays, whatever the records hold.
   EXPECT_TRUE(on.Disk.Exists(u"/R/b <ARTIST>"));
 }
 
@@ -347,7 +346,7 @@ TEST(UndoTags, ABrokenVersionEndsTheUndo) {
   on.Disk.Write(u"/R/b", "bytes");
   on.Disk.Write(u"/R/UNDORENAME.TXT", JournalHeader() +
                                           "<VORL>|/R/|a|b\r\n"
-                                          "<MP3TAG>|x|-1||||||||0|/R/|song.mp3\r\n");
+                                          "<MP3TAG>|x|-1|||||||0|/R/|song.mp3\r\n");
   on.World.State.CurrentPath = u"/R/";
   on.World.Undo.cmdUndo_Click();
   ASSERT_EQ(on.World.Report.Reports.size(), 1U);
