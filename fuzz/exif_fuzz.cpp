@@ -2,10 +2,10 @@
 // Seeds: tests/data/exif.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <string_view>
 
+#include "fuzz/require.h"
 #include "metadata/exif.h"
 #include "platform/failure.h"
 
@@ -15,12 +15,6 @@ using namespace vorlane;
 
 // Two directories.
 constexpr std::size_t MostEntries = std::size_t{2} * 65535;
-
-void Require(bool promise) {
-  if (!promise) {
-    std::abort();
-  }
-}
 
 std::optional<ExifContents> Parse(std::string_view bytes) {
   std::optional<ExifContents> contents;
