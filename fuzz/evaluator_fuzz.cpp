@@ -20,7 +20,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   FakeFacts facts;
   CountingLoop loop;
-  ID3Tag tagV1{.Present = true, .Artist = input.NextText()};
+  ID3Tag tagV1;
+  tagV1.Present = true;
+  tagV1.Artist = input.NextText();
   ID3Tag tagV2;
   const bool windows = (switches & 64U) != 0;
   const bool steps = (switches & 128U) != 0;

@@ -27,7 +27,8 @@ void Read(const std::string& bytes) {
 }
 
 void Write(FuzzInput input) {
-  ID3Tag tag{.Present = true};
+  ID3Tag tag;
+  tag.Present = true;
   tag.Artist = input.NextText();
   tag.Title = input.NextText();
   tag.Album = input.NextText();

@@ -13,7 +13,8 @@ namespace {
 constexpr std::size_t SmallestTag = 257;
 
 ID3Tag TakeTag(FuzzInput& input) {
-  ID3Tag tag{.Present = true};
+  ID3Tag tag;
+  tag.Present = true;
   tag.Genre = static_cast<std::int16_t>(input.NextNumber());
   tag.Artist = input.NextText();
   tag.Title = input.NextText();
