@@ -93,6 +93,9 @@ bool BatchRun::FindRowToRun(std::int32_t& row, bool& fallback, std::int32_t rows
 }
 
 void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
+  if (listener_ != nullptr) {
+    listener_->RowStarted(row);
+  }
   ScrollTo(row, rowsPerPage);
   if (form_.DoAll) {
     form_.SelectRow(row);

@@ -132,6 +132,7 @@ void RowSteps::Move(const RowInHand& in, const Text& step, StepResults& results)
                            .NewName = in.Name,
                            .Destination = destination});
   results.Changed = true;
+  results.MovedTo = destination;
 }
 
 Text RowSteps::FolderOf(const RowInHand& in, const Text& step) {

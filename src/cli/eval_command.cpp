@@ -10,6 +10,7 @@
 #include "cli/row_output.h"
 #include "cli/session.h"
 #include "cli/tag_json.h"
+#include "cli/whole_number.h"
 #include "engine/process_file_name.h"
 #include "metadata/tag_reading.h"
 #include "platform/file_name_bytes.h"
@@ -196,16 +197,23 @@ ExitStatus Evaluate(const Arguments& arguments, bool hasEntry) {
 void AddEvalCommand(CLI::App& app, ExitStatus& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("eval", "Evaluate one code text for one entry");
-  command->add_option("CODE", arguments->Code, "The code text");
-  CLI::Option* name = command->add_option("NAME", arguments->Name, "The entry's name");
-  command->add_option("--folder", arguments->Folder, "The entry's folder");
-  command->add_option("--number", arguments->Number, "What <AUTONUMBER> stands for");
-  command->add_option("--rows", arguments->Rows, "Rows of the list, for the number's width");
-  command->add_option("--box", arguments->Boxes, "N=TEXT: box N is shown and holds TEXT")
+  command->add_option("CODE", arguments->Code, "The code text")->type_name("");
+  CLI::Option* name =
+      command->add_option("NAME", arguments->Name, "The entry's name")->type_name("");
+  command->add_option("--folder", arguments->Folder, "The entry's folder")->type_name("F");
+  command->add_option("--number", arguments->Number, "What <AUTONUMBER> stands for")
+      ->type_name("N")
+      ->transform(WholeNumber());
+  command->add_option("--rows", arguments->Rows, "Rows of the list, for the number's width")
+      ->type_name("N")
+      ->transform(WholeNumber());
+  command->add_option("--box", arguments->Boxes, "Box N is shown and holds TEXT")
+      ->type_name("N=TEXT")
       ->allow_extra_args(false);
   command->add_flag("--tag-steps", arguments->TagSteps, "Evaluate steps that write tags");
   command->add_flag("--folder-steps", arguments->FolderSteps, "Evaluate steps that make folders");
-  command->add_option("--paths", arguments->Paths, "windows or posix; this system's by default");
+  command->add_option("--paths", arguments->Paths, "windows or posix; this system's by default")
+      ->type_name("STYLE");
   command->add_flag("--json", arguments->AsJson, "Print JSON");
   command->add_flag("--jsonl", arguments->AsJsonLines, "Read JSON lines, print JSON lines");
   command->callback(

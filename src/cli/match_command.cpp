@@ -34,8 +34,12 @@ void AddMatchCommand(CLI::App& app, ExitStatus& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("match", "Print the names that a wildcard accepts");
   command->add_option("WILDCARD", arguments->Wildcard, "The wildcard, as the list uses it")
+      ->type_name("")
       ->required();
-  command->add_option("NAME", arguments->Names, "Names to try")->required();
+  command->add_option("NAME", arguments->Names, "Names to try")
+      ->type_name("")
+      ->required()
+      ->allow_extra_args(false);  // otherwise "[a,b]" is taken for a list of two
   command->callback([arguments, &status] { status = PrintMatches(*arguments); });
 }
 

@@ -4,7 +4,7 @@
 #include <charconv>
 
 #include "cli/box_argument.h"
-#include "cli/row_output.h"
+#include "cli/whole_number.h"
 #include "platform/file_name_bytes.h"
 #include "platform/letter_case.h"
 
@@ -28,14 +28,23 @@ Text PathOfTitles(const OperationsTree& tree, const OperationNode& node) {
 void OperationArguments::AddTo(CLI::App& command) {
   Entries.AddTo(command);
   CLI::Option* operation =
-      command.add_option("--operation", Operation, "Index or path of titles, \"Case/Upper case\"");
-  CLI::Option* code =
-      command.add_option("--code", Codes, "One step of code; repeat for more steps");
-  code->allow_extra_args(false)->excludes(operation);
-  command.add_option("--catalogue", Catalogue, "Read this operations file");
-  command.add_option("--box", BoxTexts, "N=TEXT: the text typed in box N")->allow_extra_args(false);
-  command.add_option("--check", Checks, "N: tick the check box of box N")->allow_extra_args(false);
-  command.add_option("--only", Only, "Do only the row with this name")->allow_extra_args(false);
+      command.add_option("--operation", Operation, "Index or path of titles, \"Case/Upper case\"")
+          ->type_name("OP");
+  command.add_option("--code", Codes, "One step of code; repeat for more steps")
+      ->type_name("STEP")
+      ->allow_extra_args(false)
+      ->excludes(operation);
+  command.add_option("--catalogue", Catalogue, "Read this operations file")->type_name("FILE");
+  command.add_option("--box", BoxTexts, "The text typed in box N")
+      ->type_name("N=TEXT")
+      ->allow_extra_args(false);
+  command.add_option("--check", Checks, "Tick the check box of box N")
+      ->type_name("N")
+      ->transform(WholeNumber())
+      ->allow_extra_args(false);
+  command.add_option("--only", Only, "Do only the row with this name; repeat for more rows")
+      ->type_name("NAME")
+      ->allow_extra_args(false);
   command.add_flag("--json", AsJson, "Print JSON");
   command.add_flag("--all", All, "Print unchanged rows too");
 }
@@ -72,7 +81,7 @@ void OperationArguments::LoadCodes(Session& session, OperationKeys& keys) const 
   }
   OperationsTree tree = CatalogueArgument(session.Files, Catalogue);
   if (tree.Failure) {
-    PrintMessage(DescribeFailure(tree));
+    session.Troubles.Tell(DescribeFailure(tree));
   }
   form.SelectedOperation = FindOperation(tree);
   form.OperationCodes = std::move(tree.OperationCodes);

@@ -9,7 +9,9 @@
 namespace vorlane {
 
 Session::Session()
-    : Progress(Time),
+    : Report(Troubles),
+      Boxes(Troubles),
+      Progress(Time),
       Outside{Files, Time, Loop, Report, Boxes},
       State(Progress, Loop),
       Facts(Outside.Files, Outside.Time, Outside.Report, Outside.Boxes),
@@ -20,7 +22,7 @@ Session::Session()
 }
 
 ExitStatus Session::Status() const {
-  return Report.HasReported() || Boxes.HasWarned() ? ExitStatus::Refused : ExitStatus::Done;
+  return Troubles.HasAny() ? ExitStatus::Refused : ExitStatus::Done;
 }
 
 Text FolderArgument(FileSystem& files, const std::string& folder) {

@@ -20,6 +20,7 @@ struct Session {
 
   SystemClock Time;
   PosixFileSystem Files;
+  TroubleLog Troubles;
   ConsoleReport Report;
   ConsolePrompter Boxes;
   ConsoleLoop Loop;
@@ -30,7 +31,7 @@ struct Session {
   Preview Previews;
   FileList List;
 
-  // Done unless something was reported or warned of.
+  // Done unless there was trouble.
   ExitStatus Status() const;
 };
 
