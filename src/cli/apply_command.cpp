@@ -23,27 +23,35 @@ std::int32_t FindRow(const FileRows& rows, TextView folder, TextView name) {
   return 0;
 }
 
+// What --only asks for, as the preview shows it.
+struct WantedRow {
+  Text Folder;
+  Text Name;
+  Text Proposed;
+};
+
 // One row after the other, each as a run of its own that adds to the same journal. A run may move
-// rows, so each is found again by its folder and name.
+// rows, so each is found again by its folder and name. All are previewed before the first is
+// renamed, so that each gets the name that the preview command shows.
 void RunOnly(const OperationArguments& arguments, Session& session, BatchRun& run,
              RunPrinter& printer) {
-  const FileRows& rows = session.State.Rows;
-  std::vector<std::pair<Text, Text>> wanted;
-  for (const std::int32_t row : arguments.OnlyRows(session.State)) {
-    wanted.emplace_back(rows.PathOf(row), rows.At(row).Name);
+  Form& form = session.State;
+  std::vector<WantedRow> wanted;
+  for (const std::int32_t row : arguments.PreviewOnly(session)) {
+    wanted.push_back({form.Rows.PathOf(row), form.Rows.At(row).Name, form.Rows.At(row).Proposed});
   }
   auto start = JournalStart::New;
-  for (const auto& [folder, name] : wanted) {
+  for (const WantedRow& entry : wanted) {
     if (StopSignalled()) {
       return;
     }
-    const std::int32_t row = FindRow(rows, folder, name);
+    const std::int32_t row = FindRow(form.Rows, entry.Folder, entry.Name);
     if (row == 0) {
-      printer.RowVanished(name);
+      printer.RowVanished(entry.Name);
       continue;
     }
     arguments.SelectRow(session, row);
-    session.Previews.UpdateFilePreviewAll(false, row);
+    form.SetProposedCell(row, entry.Proposed);
     run.cmdGo_Click(start);
     start = JournalStart::Continue;
   }

@@ -15,7 +15,10 @@ void ListArguments::AddTo(CLI::App& command) {
 void ListArguments::List(Session& session, TextView defaultWildcard) const {
   Form& form = session.State;
   form.CurrentPath = FolderArgument(session.Files, Folder);
-  form.WildCard = Wildcard.empty() ? Text(defaultWildcard) : TextFromBytes(Wildcard);
+  form.WildCard = Wildcard ? TextFromBytes(*Wildcard) : Text(defaultWildcard);
+  if (form.WildCard.empty()) {
+    form.WildCard = u"*.*";
+  }
   form.IncludeSubFolders = Recursive;
   form.ListFolders = Folders;
   form.SelectedOperation = 0;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/remaining_arguments.h"
 #include "filelist/wildcard.h"
 #include "platform/file_name_bytes.h"
 
@@ -36,10 +37,7 @@ void AddMatchCommand(CLI::App& app, ExitStatus& status) {
   command->add_option("WILDCARD", arguments->Wildcard, "The wildcard, as the list uses it")
       ->type_name("")
       ->required();
-  command->add_option("NAME", arguments->Names, "Names to try")
-      ->type_name("")
-      ->required()
-      ->allow_extra_args(false);  // otherwise "[a,b]" is taken for a list of two
+  AddRemainingArguments(*command, "NAME", arguments->Names, "Names to try");
   command->callback([arguments, &status] { status = PrintMatches(*arguments); });
 }
 

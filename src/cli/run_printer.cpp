@@ -107,11 +107,11 @@ bool RunPrinter::Finish(bool stopped) {
     json_->Finish();
   }
   std::cout.flush();
-  std::cerr << changes_ << " of " << rows_ << " changed";
-  if (refusals_ > 0) {
-    std::cerr << ", " << refusals_ << " refused";
+  if (json_ == nullptr || stopped) {
+    std::cerr << changes_ << " of " << rows_ << " changed";
+    std::cerr << (refusals_ > 0 ? ", " + std::to_string(refusals_) + " refused" : "");
+    std::cerr << (stopped ? ", stopped\n" : "\n");
   }
-  std::cerr << (stopped ? ", stopped\n" : "\n");
   return refusals_ == 0;
 }
 

@@ -20,7 +20,8 @@ class RunPrinter final : public RunListener {
   // A row that was asked for has gone from the list before its turn came.
   void RowVanished(TextView name);
 
-  // Ends the output; the summary goes to standard error. True if nothing was refused.
+  // Ends the output; a summary goes to standard error, with JSON only if the run was stopped. True
+  // if nothing was refused.
   bool Finish(bool stopped);
 
  private:

@@ -41,14 +41,17 @@ class RecordPrinter final : public UndoListener {
     }
   }
 
-  // Ends the output; the summary goes to standard error. True if nothing was skipped.
+  // Ends the output; a summary goes to standard error, with JSON only if the replay was stopped.
+  // True if nothing was skipped.
   bool Finish(bool stopped) {
     if (json_ != nullptr) {
       json_->Finish();
     }
     std::cout.flush();
-    std::cerr << done_ << " done, " << skipped_ << " skipped"
-              << (stopped ? ", stopped: the journal stays\n" : "\n");
+    if (json_ == nullptr || stopped) {
+      std::cerr << done_ << " done, " << skipped_ << " skipped"
+                << (stopped ? ", stopped: the journal stays\n" : "\n");
+    }
     return skipped_ == 0;
   }
 

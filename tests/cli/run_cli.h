@@ -15,14 +15,13 @@ namespace vorlane {
 using Json = nlohmann::ordered_json;
 
 inline ProgramResult RunCli(std::vector<std::string> arguments, std::string input = {}) {
-  return RunProgram(VORLANE_CLI,
-                    {.Arguments = std::move(arguments), .Input = std::move(input)});
+  return RunProgram(VORLANE_CLI, {.Arguments = std::move(arguments), .Input = std::move(input)});
 }
 
 // The output as the one JSON document that it has to be.
 inline Json Document(const ProgramResult& result) {
   Json document = Json::parse(result.Output, nullptr, false);
-  EXPECT_FALSE(document.is_discarded()) << result.Output;
+  EXPECT_FALSE(document.is_discarded()) << result.Output << result.Errors;
   return document;
 }
 

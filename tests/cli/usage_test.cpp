@@ -4,7 +4,7 @@
 namespace vorlane {
 namespace {
 
-const std::vector<std::string> Commands = {"operations", "list", "preview",   "apply",
+const std::vector<std::string> Commands = {"operations", "list", "preview", "apply",
                                            "undo",       "eval", "match"};
 
 TEST(CliUsage, TheProgramAndEveryCommandHasHelp) {
@@ -105,7 +105,8 @@ TEST(CliUsage, WrongArgumentsGiveOneLineAndStatus2) {
 }
 
 TEST(CliUsage, AMessageIsOneLineWhateverItTellsOf) {
-  EXPECT_EQ(RefusalOf(RunCli({"list", "/no\nsuch\r\x1b[31m"}), 3), "no such folder: /no?such??[31m");
+  EXPECT_EQ(RefusalOf(RunCli({"list", "/no\nsuch\r\x1b[31m"}), 3),
+            "no such folder: /no?such??[31m");
 }
 
 TEST(CliUsage, AnOptionTakesItsValueAlsoBehindAnEqualsSign) {

@@ -178,8 +178,8 @@ ProgramResult RunningProgram::Finish() {
   int status = 0;
   waitpid(process_, &status, 0);
   process_ = -1;
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status),
-          std::move(output_.Text), std::move(errors_.Text)};
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), std::move(output_.Text),
+          std::move(errors_.Text)};
 }
 
 ProgramResult RunProgram(const std::string& program, const ProgramCall& call) {
