@@ -122,6 +122,9 @@ void RowSteps::MakeFolder(const RowInHand& in, const Text& step, StepResults& re
 
 void RowSteps::Move(const RowInHand& in, const Text& step, StepResults& results) {
   const Text destination = FolderOf(in, step);
+  if (destination == in.Path) {
+    return;  // it is there already
+  }
   if (!MoveFile(services_.Files, in.Path, in.Name, destination, in.Name)) {
     results.MoveRefused = true;
     return;

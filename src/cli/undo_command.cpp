@@ -75,13 +75,22 @@ class RecordPrinter final : public UndoListener {
   std::size_t skipped_ = 0;
 };
 
+void RequireJournal(Session& session, const std::string& folder) {
+  try {
+    if (!JournalExists(session.Files, session.State.CurrentPath)) {
+      throw CommandError(ExitStatus::NotFound, "no journal in " + folder);
+    }
+  } catch (const RunError& error) {
+    throw CommandError(ExitStatus::Refused, "can't read the journal in " + folder + ": " +
+                                                DisplayUtf8(error.Description()));
+  }
+}
+
 ExitStatus Undo(const Arguments& arguments) {
   CatchStopSignals();
   Session session;
   session.State.CurrentPath = FolderArgument(session.Files, arguments.Folder);
-  if (!JournalExists(session.Files, session.State.CurrentPath)) {
-    throw CommandError(ExitStatus::NotFound, "no journal in " + arguments.Folder);
-  }
+  RequireJournal(session, arguments.Folder);
   RecordPrinter printer(session, arguments.AsJson);
   UndoRun undo(session.State, session.Outside, session.List, &printer);
   bool stopped = false;

@@ -154,7 +154,7 @@ TEST_F(CliApply, InJsonEachRowSaysWhetherItWasDone) {
   const ProgramResult result = Apply({"--json", "--code", "<UPPERCASE><FILENAME></UPPERCASE>"});
   EXPECT_EQ(result.Status, 1);
   EXPECT_EQ(result.Errors, "");
-  const Json rows = Document(result);
+  Json rows = Document(result);
   ASSERT_EQ(rows.size(), 3U);
   EXPECT_EQ(rows[0], Json({{"row", 1},
                            {"folder", folder_.Path()},
@@ -200,9 +200,9 @@ TEST_F(CliApply, DoesWhatThePreviewProposed) {
     }
     Lists words = {"preview", place.Path(), "--json"};
     words.insert(words.end(), operation.begin(), operation.end());
-    const Json proposals = Document(RunCli(words));
+    Json proposals = Document(RunCli(words));
     words[0] = "apply";
-    const Json rows = Document(RunCli(words));
+    Json rows = Document(RunCli(words));
     ASSERT_EQ(rows.size(), proposals.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
       const std::string folder = rows[i]["folder"];

@@ -65,7 +65,7 @@ TEST_F(CliList, InJsonARowHasEveryColumn) {
   folder_.Write("a.txt");
   folder_.Write("Sub/b.txt");
   chmod((folder_.Path() + "a.txt").c_str(), 0444);
-  const Json rows = Document(List({"--json", "--recursive"}));
+  Json rows = Document(List({"--json", "--recursive"}));
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0], Json({{"row", 1},
                            {"folder", folder_.Path()},

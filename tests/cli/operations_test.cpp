@@ -32,7 +32,7 @@ TEST_F(CliOperations, AreListedWithTheirIndexIndentedByTheirDepth) {
 TEST_F(CliOperations, AreListedWithAllTheirKeysInJson) {
   const ProgramResult result = Read(TestCatalogue(), {"--json"});
   EXPECT_EQ(result.Status, 0);
-  const Json all = Document(result);
+  Json all = Document(result);
   ASSERT_EQ(all.size(), 6U);
   EXPECT_EQ(all[0], Json::parse(R"({"index":1,"depth":1,"title":"Names","heading":true,"help":"",
       "wildcard":"","boxes":[]})"));

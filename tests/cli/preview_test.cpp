@@ -207,7 +207,7 @@ TEST_F(CliPreview, OneJsonObjectARow) {
   const ProgramResult result = Preview({"--json", "--code", "x<NAMEONLY><ARTIST>"});
   EXPECT_EQ(result.Status, 0);
   EXPECT_EQ(result.Errors, "");
-  const Json rows = Document(result);
+  Json rows = Document(result);
   ASSERT_EQ(rows.size(), 3U);
   EXPECT_EQ(rows[0], Json({{"row", 1},
                            {"folder", folder_.Path()},
