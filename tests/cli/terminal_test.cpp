@@ -1,4 +1,5 @@
 // Progress and escape codes: on a terminal's standard error only.
+#include "cli/many_files.h"
 #include "cli/run_cli.h"
 
 namespace vorlane {
@@ -6,11 +7,7 @@ namespace {
 
 class CliTerminal : public testing::Test {
  protected:
-  CliTerminal() {
-    for (int file = 0; file < 3000; ++file) {
-      folder_.Write("file " + std::to_string(file) + " " + std::string(80, 'x'));
-    }
-  }
+  CliTerminal() { WriteMany(folder_, 1500); }
 
   ProgramCall Call(bool onTerminal) {
     return {.Arguments = {"apply", folder_.Path(), "--code", "new <FILENAME>"},
@@ -28,7 +25,7 @@ TEST_F(CliTerminal, ALongJobShowsItsProgressThereAndTakesItAway) {
   }
   const ProgramResult result = program.Finish();
   EXPECT_EQ(result.Status, 0);
-  EXPECT_TRUE(result.Errors.ends_with("\r\x1b[K3000 of 3000 changed\r\n")) << result.Errors;
+  EXPECT_TRUE(result.Errors.ends_with("\r\x1b[K1500 of 1500 changed\r\n")) << result.Errors;
   EXPECT_EQ(result.Output.find('\x1b'), std::string::npos);
 }
 
@@ -39,7 +36,7 @@ TEST_F(CliTerminal, WithoutATerminalThereIsNone) {
     program.ReadSomeOutput();
   }
   const ProgramResult result = program.Finish();
-  EXPECT_EQ(result.Errors, "3000 of 3000 changed\n");
+  EXPECT_EQ(result.Errors, "1500 of 1500 changed\n");
   EXPECT_EQ(result.Output.find('\x1b'), std::string::npos);
 }
 

@@ -160,7 +160,7 @@ void RunningProgram::ReadOnce(Stream& stream, std::size_t most) {
 }
 
 void RunningProgram::ReadSomeOutput() {
-  constexpr std::size_t some = 4096;
+  constexpr std::size_t some = 1024;
   if (output_.End >= 0) {
     ReadOnce(output_, some);
   }
