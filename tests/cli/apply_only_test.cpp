@@ -57,8 +57,7 @@ TEST_F(CliApplyOnly, UndoTakesAllOfThemBack) {
 TEST_F(CliApplyOnly, RowsThatMoveInTheListAreFoundAgain) {
   const ProgramResult result =
       Apply({"a.txt", "b.txt", "c.txt", "d.txt"}, {"--code", "z<FILENAME>"});
-  EXPECT_EQ(result.Output,
-            "a.txt -> za.txt\nb.txt -> zb.txt\nc.txt -> zc.txt\nd.txt -> zd.txt\n");
+  EXPECT_EQ(result.Output, "a.txt -> za.txt\nb.txt -> zb.txt\nc.txt -> zc.txt\nd.txt -> zd.txt\n");
   ExpectUndoRestores();
 }
 
@@ -80,8 +79,8 @@ TEST_F(CliApplyOnly, AllRowsOfThatNameInSubFoldersToo) {
 }
 
 TEST_F(CliApplyOnly, BoxTextsCountForEachOfThem) {
-  const ProgramResult result = Apply(
-      {"a.txt", "b.txt"}, {"--code", "<BOX1>-<NAMEONLY>", "--box", "1=<FOLDERNAME>"});
+  const ProgramResult result =
+      Apply({"a.txt", "b.txt"}, {"--code", "<BOX1>-<NAMEONLY>", "--box", "1=<FOLDERNAME>"});
   EXPECT_EQ(result.Status, 0);
   const std::string folder = folder_.Path().substr(5, folder_.Path().size() - 6);
   EXPECT_EQ(folder_.Read(folder + "-a"), "a.txt");
@@ -94,12 +93,10 @@ TEST_F(CliApplyOnly, ATypedTextCountsInABoxWithAFormula) {
                 "Wildcard: *.txt\r\nAvailable Boxes: 1\r\nBox Name: n\r\n"
                 "Box Display: <UPPERCASE><NAMEONLY></UPPERCASE>\r\n\r\n");
   const Lists operation = {"--operation", "One", "--catalogue", folder_.Path() + "Some.ini"};
-  EXPECT_EQ(Apply({"a.txt", "b.txt"}, operation).Output,
-            "a.txt -> A.txt\nb.txt -> B.txt\n");
+  EXPECT_EQ(Apply({"a.txt", "b.txt"}, operation).Output, "a.txt -> A.txt\nb.txt -> B.txt\n");
   Lists typed = operation;
   typed.insert(typed.end(), {"--box", "1=new <NAMEONLY>"});
-  EXPECT_EQ(Apply({"c.txt", "d.txt"}, typed).Output,
-            "c.txt -> new c.txt\nd.txt -> new d.txt\n");
+  EXPECT_EQ(Apply({"c.txt", "d.txt"}, typed).Output, "c.txt -> new c.txt\nd.txt -> new d.txt\n");
 }
 
 TEST_F(CliApplyOnly, ARefusedRowLeavesTheOthersToBeDone) {
@@ -126,8 +123,7 @@ TEST_F(CliApplyOnly, ANameThatIsNotListedChangesNothing) {
 TEST_F(CliApplyOnly, NothingToDoLeavesNoJournal) {
   EXPECT_EQ(Apply({"a.txt", "b.txt"}, {"--code", "<FILENAME>"}).Status, 0);
   EXPECT_EQ(folder_.Contents(), before_);
-  EXPECT_EQ(Apply({"a.txt", "b.txt"},
-                  {"--code", "<REPLACE><FILENAME>|b|x|</REPLACE>"}).Status, 0);
+  EXPECT_EQ(Apply({"a.txt", "b.txt"}, {"--code", "<REPLACE><FILENAME>|b|x|</REPLACE>"}).Status, 0);
   ExpectUndoRestores();
 }
 

@@ -100,8 +100,8 @@ TEST_F(CliApplySteps, AnEntryThatIsThereAlreadyHasNothingToDo) {
 TEST_F(CliApplySteps, WhatWasMovedIsNotRenamedAsWell) {
   folder_.Write("a.txt");
   const Tree before = folder_.Contents();
-  const ProgramResult result = Apply(
-      With(SortByExtension, {"--code", "<UPPERCASE><NAMEONLY></UPPERCASE><EXTONLY>"}));
+  const ProgramResult result =
+      Apply(With(SortByExtension, {"--code", "<UPPERCASE><NAMEONLY></UPPERCASE><EXTONLY>"}));
   EXPECT_EQ(result.Status, 1);
   EXPECT_EQ(result.Output, "a.txt -> " + Path("by type/.txt/a.txt") + "\n");
   EXPECT_EQ(result.Errors,
@@ -153,8 +153,7 @@ TEST_F(CliApplySteps, TagsAreWrittenAndComeBack) {
   Json rows = Document(result);
   EXPECT_EQ(rows[0]["done"], true);
   EXPECT_EQ(rows[0]["artist"], "New");
-  EXPECT_EQ(folder_.Read("A.mp3"),
-            "audio" + id3::V1("Title", "New", "Album", "", "Note", 7, 0));
+  EXPECT_EQ(folder_.Read("A.mp3"), "audio" + id3::V1("Title", "New", "Album", "", "Note", 7, 0));
   ExpectUndoRestores(before);
 }
 
@@ -171,8 +170,7 @@ TEST_F(CliApplySteps, ATagThatCannotBeWrittenIsRefused) {
   const ProgramResult json = Apply(With(operation, {"--json", "--code", "x<FILENAME>"}));
   EXPECT_EQ(json.Status, 1);
   Json row = Document(json)[0];
-  EXPECT_EQ(row["reason"],
-            "WriteID3v1 (a.mp3): Invalid procedure call or argument (error 5)");
+  EXPECT_EQ(row["reason"], "WriteID3v1 (a.mp3): Invalid procedure call or argument (error 5)");
   EXPECT_EQ(row["done"], true) << "renamed";
   EXPECT_EQ(folder_.Read("xa.mp3"), "audio");
 }
@@ -202,10 +200,9 @@ TEST_F(CliApplySteps, ABrokenStepEndsTheRun) {
 TEST_F(CliApplySteps, BoxesServeTheStepsToo) {
   folder_.Write("a.txt", "A");
   const Tree before = folder_.Contents();
-  EXPECT_EQ(Apply({"--operation", "Move into folders/One folder for all", "--box",
-                   "1=Box\\Sub"})
-                .Status,
-            0);
+  EXPECT_EQ(
+      Apply({"--operation", "Move into folders/One folder for all", "--box", "1=Box\\Sub"}).Status,
+      0);
   EXPECT_EQ(folder_.Read("Box/Sub/a.txt"), "A");
   ExpectUndoRestores(before);
 }

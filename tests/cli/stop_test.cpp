@@ -69,8 +69,8 @@ TEST_P(CliStop, ApplyFinishesTheRowAndLeavesTheJournal) {
   const std::size_t renamed = Renamed();
   EXPECT_GE(renamed, 10U);
   EXPECT_LT(renamed, static_cast<std::size_t>(Files));
-  EXPECT_EQ(result.Errors, std::to_string(renamed) + " of " + std::to_string(renamed) +
-                               " changed, stopped\n");
+  EXPECT_EQ(result.Errors,
+            std::to_string(renamed) + " of " + std::to_string(renamed) + " changed, stopped\n");
   EXPECT_EQ(Document(result).size(), renamed);
   EXPECT_EQ(Records(), renamed);
   EXPECT_TRUE(JournalText().ends_with("\r\n"));

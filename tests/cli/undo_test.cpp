@@ -107,8 +107,7 @@ TEST_F(CliUndo, FoldersThatARunMadeGoAgain) {
   EXPECT_EQ(result.Status, 1);
   const std::string there = folder_.Path() + "x/y/";
   EXPECT_EQ(result.Output, "done     <MOVE>|" + folder_.Path() + "|a.txt|" + there + "|a.txt\n" +
-                               "skipped  <CREATEFOLDER>|2|" + there +
-                               " (a folder isn't empty)\n");
+                               "skipped  <CREATEFOLDER>|2|" + there + " (a folder isn't empty)\n");
   EXPECT_EQ(folder_.Contents(), (Tree{{"a.txt", "A"}, {"x/", ""}, {"x/other", ""}}));
 }
 
@@ -131,8 +130,7 @@ TEST_F(CliUndo, ATagThatCannotBeWrittenIsNotDone) {
   EXPECT_EQ(result.Status, 1);
   Json record = Document(result)[0];
   EXPECT_EQ(record["done"], false);
-  EXPECT_EQ(record["reason"],
-            "WriteID3v1 (a.mp3): Invalid procedure call or argument (error 5)");
+  EXPECT_EQ(record["reason"], "WriteID3v1 (a.mp3): Invalid procedure call or argument (error 5)");
   EXPECT_EQ(folder_.Read("a.mp3"), "audio");
 }
 
@@ -188,7 +186,7 @@ TEST_F(CliUndo, AJournalThatCannotBeReadIsToldOf) {
   folder_.Write(Journal, "x");
   chmod((folder_.Path() + Journal).c_str(), 0);
   chmod(folder_.Path().c_str(), 0755);
-  AsOrdinaryUser([&] { 
+  AsOrdinaryUser([&] {
     EXPECT_EQ(RefusalOf(Undo(), 1),
               "can't read the journal in " + folder_.Path() + ": Permission denied");
   });
