@@ -107,6 +107,9 @@ void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
   if (IsListReplaced()) {
     return;
   }
+  if (listener_ != nullptr) {
+    listener_->RowStarted(row);
+  }
   ScrollTo(row, rowsPerPage);
   if (form_.DoAll) {
     form_.SelectRow(row);

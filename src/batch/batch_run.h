@@ -27,10 +27,11 @@ struct RowOutcome {
   StepResults Steps{};
 };
 
-// Hears of each row as it is finished. For a program that prints what happens.
+// Hears of each row as it is begun and finished. For a program that prints what happens.
 class RunListener {
  public:
   virtual ~RunListener() = default;
+  virtual void RowStarted(std::int32_t /*row*/) {}
   virtual void RowFinished(const RowOutcome& outcome) = 0;
 };
 

@@ -126,6 +126,9 @@ void RowSteps::MakeFolder(const RowInHand& in, const Text& step, StepResults& re
 
 void RowSteps::Move(const RowInHand& in, const Text& step, StepResults& results) {
   const Text destination = FolderOf(in, step);
+  if (destination == in.Path) {
+    return;  // it is there already
+  }
   if (destination.empty() || !MoveFile(services_.Files, in.Path, in.Name, destination, in.Name)) {
     results.MoveRefused = true;
     return;
@@ -136,6 +139,7 @@ void RowSteps::Move(const RowInHand& in, const Text& step, StepResults& results)
                            .NewName = in.Name,
                            .Destination = destination});
   results.Changed = true;
+  results.MovedTo = destination;
 }
 
 // The folder that a step stands for; empty if what it gives isn't rooted, which would mean some

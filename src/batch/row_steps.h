@@ -17,6 +17,7 @@ struct StepResults {
   bool StepTagPresent = false;  // a tag step has left an unfinished journal line
   bool Changed = false;         // a folder was made, the entry moved or a tag step carried out
   bool MoveRefused = false;
+  Text MovedTo{};  // the folder in which the entry is now, if it was moved
 };
 
 class RowSteps {

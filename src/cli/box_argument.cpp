@@ -6,13 +6,21 @@
 
 namespace vorlane {
 
+std::optional<std::size_t> BoxIndexOf(std::string_view number) {
+  if (number.size() != 1 || number[0] < '1' || number[0] >= '1' + OptionBoxCount) {
+    return std::nullopt;
+  }
+  return static_cast<std::size_t>(number[0] - '1');
+}
+
 BoxArgument::BoxArgument(const std::string& argument) {
-  if (argument.size() < 2 || argument[1] != '=' || argument[0] < '1' ||
-      argument[0] >= '1' + OptionBoxCount) {
+  const auto equals = argument.find('=');
+  const auto index = BoxIndexOf(argument.substr(0, equals));
+  if (equals == std::string::npos || !index) {
     throw CommandError(ExitStatus::Usage, "--box " + argument + ": expected N=TEXT with N 1 to 6");
   }
-  Index = static_cast<std::size_t>(argument[0] - '1');
-  Content = TextFromBytes(argument.substr(2));
+  Index = *index;
+  Content = TextFromBytes(argument.substr(equals + 1));
 }
 
 }  // namespace vorlane

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <thread>
 
+#include "cli/message.h"
 #include "platform/console.h"
 #include "platform/file_name_bytes.h"
 
@@ -17,29 +18,35 @@ constexpr std::uint64_t RefreshMilliseconds = 100;
 
 }  // namespace
 
-void PrintMessage(TextView text) {
-  std::cerr << "vorlane-cli: " << DisplayUtf8(text) << '\n';
+void TroubleLog::Tell(TextView message) {
+  PrintMessage(message);
+  if (first_.empty()) {
+    first_ = message;
+  }
+  any_ = true;
 }
 
 void ConsoleReport::ReportError(TextView /*module*/, TextView procedure, TextView extra,
                                 const RunError& error) {
-  reported_ = true;
   Text message(procedure);
   if (!extra.empty()) {
     message.append(u" (").append(extra).append(u")");
   }
   message.append(u": ").append(error.Description());
   message.append(u" (error ").append(DecimalText(error.Number())).append(u")");
-  PrintMessage(message);
+  troubles_.Tell(message);
 }
 
 void ConsolePrompter::Show(BoxIcon icon, TextView title, TextView text) {
-  warned_ = warned_ || icon == BoxIcon::Exclamation || icon == BoxIcon::Stop;
   Text line(title);
   line.append(line.empty() ? u"" : u": ").append(text);
   ReplaceAll(line, u"\r\n", u" ");
   ReplaceAll(line, u"\n", u" ");
-  PrintMessage(line);
+  if (icon == BoxIcon::Exclamation || icon == BoxIcon::Stop) {
+    troubles_.Tell(line);
+  } else {
+    PrintMessage(line);
+  }
 }
 
 BoxAnswer ConsolePrompter::AskYesNo(BoxIcon icon, TextView title, TextView text,

@@ -2,33 +2,46 @@
 // questions get the answer for when nobody can be asked.
 #pragma once
 
+#include <utility>
+
 #include "form/form.h"
 #include "platform/failure.h"
 #include "platform/prompter.h"
 
 namespace vorlane {
 
-// One line on standard error.
-void PrintMessage(TextView text);
+// Prints what went wrong, one line each, and remembers that something did.
+class TroubleLog {
+ public:
+  void Tell(TextView message);
+  bool HasAny() const { return any_; }
+
+  // The first thing that was told of since the last call; empty if there was none.
+  Text Take() { return std::exchange(first_, Text()); }
+
+ private:
+  bool any_ = false;
+  Text first_;
+};
 
 class ConsoleReport final : public FailureReport {
  public:
+  explicit ConsoleReport(TroubleLog& troubles) : troubles_(troubles) {}
   void ReportError(TextView module, TextView procedure, TextView extra,
                    const RunError& error) override;
-  bool HasReported() const { return reported_; }
 
  private:
-  bool reported_ = false;
+  TroubleLog& troubles_;
 };
 
 class ConsolePrompter final : public Prompter {
  public:
+  explicit ConsolePrompter(TroubleLog& troubles) : troubles_(troubles) {}
   void Show(BoxIcon icon, TextView title, TextView text) override;
   BoxAnswer AskYesNo(BoxIcon icon, TextView title, TextView text, BoxAnswer unasked) override;
-  bool HasWarned() const { return warned_; }
 
  private:
-  bool warned_ = false;
+  TroubleLog& troubles_;
 };
 
 // Yields by looking whether the user wants to stop; a stop signal acts as a press of Stop.

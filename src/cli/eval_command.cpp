@@ -7,9 +7,11 @@
 #include "cli/box_argument.h"
 #include "cli/command.h"
 #include "cli/given_facts.h"
+#include "cli/json_fields.h"
 #include "cli/row_output.h"
 #include "cli/session.h"
 #include "cli/tag_json.h"
+#include "cli/whole_number.h"
 #include "engine/process_file_name.h"
 #include "metadata/tag_reading.h"
 #include "platform/file_name_bytes.h"
@@ -89,9 +91,9 @@ Text FolderOf(const std::optional<Text>& folder, PathStyle style) {
   return EnsureTrailingSeparator(TextFromBytes(here.native()), style);
 }
 
-void ShowBox(Question& question, const BoxArgument& box) {
-  question.Boxes.Visible[box.Index] = true;
-  question.Boxes.Values[box.Index] = box.Content;
+void ShowBox(Question& question, std::size_t box, const Text& content) {
+  question.Boxes.Visible[box] = true;
+  question.Boxes.Values[box] = content;
 }
 
 ExitStatus EvaluateOne(const Arguments& arguments) {
@@ -108,8 +110,9 @@ ExitStatus EvaluateOne(const Arguments& arguments) {
     folder = TextFromBytes(*arguments.Folder);
   }
   question.Folder = FolderOf(folder, question.Paths);
-  for (const std::string& box : arguments.Boxes) {
-    ShowBox(question, BoxArgument(box));
+  for (const std::string& argument : arguments.Boxes) {
+    const BoxArgument box(argument);
+    ShowBox(question, box.Index, box.Content);
   }
   if (HasMp3Extension(question.Name)) {
     const Text path = question.Folder + question.Name;
@@ -125,33 +128,49 @@ ExitStatus EvaluateOne(const Arguments& arguments) {
   return session.Status();
 }
 
-Question QuestionOf(const Json& line) {
-  Question question{.Code = TextOfJson(line.at("code").get<std::string>()),
-                    .Name = TextOfJson(line.at("name").get<std::string>()),
-                    .Number = line.value("number", std::int32_t{1}),
-                    .Rows = line.value("rows", std::int32_t{1}),
-                    .TagSteps = line.value("tagSteps", false),
-                    .FolderSteps = line.value("folderSteps", false),
-                    .Paths = StyleNamed(line.value("paths", std::string()))};
-  std::optional<Text> folder;
-  if (line.contains("folder")) {
-    folder = TextOfJson(line.at("folder").get<std::string>());
+Text RequiredText(const Json& line, const std::string& name) {
+  auto text = TextField(line, name);
+  if (!text) {
+    throw CommandError(ExitStatus::Usage, name + " is required");
   }
-  question.Folder = FolderOf(folder, question.Paths);
-  if (line.contains("boxes")) {
-    for (const auto& [number, text] : line.at("boxes").items()) {
-      BoxArgument box(number + "=");
-      box.Content = TextOfJson(text.get<std::string>());
-      ShowBox(question, box);
+  return *std::move(text);
+}
+
+Question QuestionOf(const Json& line) {
+  Question question{.Code = RequiredText(line, "code"),
+                    .Name = RequiredText(line, "name"),
+                    .Number = NumberField<std::int32_t>(line, "number").value_or(1),
+                    .Rows = NumberField<std::int32_t>(line, "rows").value_or(1),
+                    .TagSteps = FlagField(line, "tagSteps").value_or(false),
+                    .FolderSteps = FlagField(line, "folderSteps").value_or(false)};
+  if (const auto paths = TextField(line, "paths")) {
+    question.Paths = StyleNamed(DisplayUtf8(*paths));
+  }
+  question.Folder = FolderOf(TextField(line, "folder"), question.Paths);
+  if (const Json* boxes = ObjectField(line, "boxes")) {
+    for (const auto& [number, text] : boxes->items()) {
+      const auto box = BoxIndexOf(number);
+      if (!box) {
+        throw CommandError(ExitStatus::Usage, "boxes: expected a number 1 to 6, not " + number);
+      }
+      ShowBox(question, *box, TextOfValue(text, "box " + number));
     }
   }
-  if (line.contains("tagV1")) {
-    question.TagV1 = TagOfJson(line.at("tagV1"));
+  if (const Json* tag = ObjectField(line, "tagV1")) {
+    question.TagV1 = TagOfJson(*tag);
   }
-  if (line.contains("tagV2")) {
-    question.TagV2 = TagOfJson(line.at("tagV2"));
+  if (const Json* tag = ObjectField(line, "tagV2")) {
+    question.TagV2 = TagOfJson(*tag);
   }
   return question;
+}
+
+Json AnswerTo(const Json& line, Session& session) {
+  Question question = QuestionOf(line);
+  const Json* given = ObjectField(line, "facts");
+  GivenFacts facts(given == nullptr ? Json::object() : *given, session.Facts);
+  const Text result = Answer(question, facts, session.Loop);
+  return {{"id", line.value("id", Json())}, {"result", JsonString(result)}};
 }
 
 // A line that can't be read is told of by its number; the lines before it have been answered.
@@ -163,14 +182,7 @@ ExitStatus EvaluateLines() {
       continue;
     }
     try {
-      const Json json = ReadJson(line);
-      Question question = QuestionOf(json);
-      GivenFacts facts(json.value("facts", Json::object()), session.Facts);
-      const Text result = Answer(question, facts, session.Loop);
-      const Json id = json.contains("id") ? json.at("id") : Json(nullptr);
-      std::cout << WriteJson({{"id", id}, {"result", JsonString(result)}}) << '\n';
-    } catch (const Json::exception& error) {
-      throw CommandError(ExitStatus::Usage, "line " + std::to_string(number) + ": " + error.what());
+      std::cout << WriteJson(AnswerTo(ReadJsonObject(line), session)) << '\n';
     } catch (const CommandError& error) {
       throw CommandError(error.Status(), "line " + std::to_string(number) + ": " + error.what());
     }
@@ -196,16 +208,23 @@ ExitStatus Evaluate(const Arguments& arguments, bool hasEntry) {
 void AddEvalCommand(CLI::App& app, ExitStatus& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("eval", "Evaluate one code text for one entry");
-  command->add_option("CODE", arguments->Code, "The code text");
-  CLI::Option* name = command->add_option("NAME", arguments->Name, "The entry's name");
-  command->add_option("--folder", arguments->Folder, "The entry's folder");
-  command->add_option("--number", arguments->Number, "What <AUTONUMBER> stands for");
-  command->add_option("--rows", arguments->Rows, "Rows of the list, for the number's width");
-  command->add_option("--box", arguments->Boxes, "N=TEXT: box N is shown and holds TEXT")
+  command->add_option("CODE", arguments->Code, "The code text")->type_name("");
+  CLI::Option* name =
+      command->add_option("NAME", arguments->Name, "The entry's name")->type_name("");
+  command->add_option("--folder", arguments->Folder, "The entry's folder")->type_name("F");
+  command->add_option("--number", arguments->Number, "What <AUTONUMBER> stands for")
+      ->type_name("N")
+      ->transform(WholeNumber());
+  command->add_option("--rows", arguments->Rows, "Rows of the list, for the number's width")
+      ->type_name("N")
+      ->transform(WholeNumber());
+  command->add_option("--box", arguments->Boxes, "Box N is shown and holds TEXT")
+      ->type_name("N=TEXT")
       ->allow_extra_args(false);
   command->add_flag("--tag-steps", arguments->TagSteps, "Evaluate steps that write tags");
   command->add_flag("--folder-steps", arguments->FolderSteps, "Evaluate steps that make folders");
-  command->add_option("--paths", arguments->Paths, "windows or posix; this system's by default");
+  command->add_option("--paths", arguments->Paths, "windows or posix; this system's by default")
+      ->type_name("STYLE");
   command->add_flag("--json", arguments->AsJson, "Print JSON");
   command->add_flag("--jsonl", arguments->AsJsonLines, "Read JSON lines, print JSON lines");
   command->callback(

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "cli/exit_status.h"
+#include "cli/json_fields.h"
 #include "metadata/exif.h"
 #include "platform/failure.h"
 
@@ -12,20 +13,20 @@ namespace vorlane {
 namespace {
 
 // "YYYY-MM-DDTHH:MM:SS".
-std::optional<DateTime> ReadTimestamp(const std::string& text) {
-  constexpr std::string_view pattern = "0000-00-00T00:00:00";
+std::optional<DateTime> ReadTimestamp(TextView text) {
+  constexpr TextView pattern = u"0000-00-00T00:00:00";
   if (text.size() != pattern.size()) {
     return std::nullopt;
   }
   int parts[6] = {};
   std::size_t part = 0;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool isDigit = text[i] >= '0' && text[i] <= '9';
-    if (pattern[i] == '0' ? !isDigit : text[i] != pattern[i]) {
+    const bool isDigit = text[i] >= u'0' && text[i] <= u'9';
+    if (pattern[i] == u'0' ? !isDigit : text[i] != pattern[i]) {
       return std::nullopt;
     }
     if (isDigit) {
-      parts[part] = parts[part] * 10 + (text[i] - '0');
+      parts[part] = parts[part] * 10 + (text[i] - u'0');
     } else {
       ++part;
     }
@@ -33,8 +34,18 @@ std::optional<DateTime> ReadTimestamp(const std::string& text) {
   return MakeDateTime(parts[0], parts[1], parts[2], parts[3], parts[4], parts[5]);
 }
 
-[[noreturn]] void ThrowUnreadable(const char* name) {
-  throw CommandError(ExitStatus::Usage, std::string("facts: can't read ") + name);
+std::int32_t ReadTagNumber(const std::string& text) {
+  std::int32_t number = 0;
+  const char* end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, number);
+  if (read.ec != std::errc() || read.ptr != end) {
+    throw CommandError(ExitStatus::Usage, "exif: expected a tag number, not " + text);
+  }
+  return number;
+}
+
+bool IsKnown(const Json& facts, const char* name) {
+  return facts.contains(name) && !facts.at(name).is_null();
 }
 
 // No fact: the reader failed.
@@ -45,33 +56,26 @@ std::optional<DateTime> ReadTimestamp(const std::string& text) {
 }  // namespace
 
 GivenFacts::GivenFacts(const Json& facts, EntryFacts& disk) : disk_(disk) {
-  const auto given = [&](const char* name) { return facts.contains(name); };
-  const auto known = [&](const char* name) { return given(name) && !facts.at(name).is_null(); };
   created_ = DateFact(facts, "created");
   modified_ = DateFact(facts, "modified");
   now_ = DateFact(facts, "now");
-  size_.Given = given("size");
-  if (known("size")) {
-    const auto bytes = facts.at("size").get<std::int64_t>();
-    if (bytes >= 0 && bytes <= std::numeric_limits<std::int32_t>::max()) {
-      size_.Known = static_cast<std::int32_t>(bytes);
+  size_.Given = facts.contains("size");
+  if (IsKnown(facts, "size")) {
+    // The length of a file of 2 GiB and more can't be had either.
+    const auto bytes = NumberField(facts, "size", 0, std::numeric_limits<std::int64_t>::max());
+    if (*bytes <= std::numeric_limits<std::int32_t>::max()) {
+      size_.Known = static_cast<std::int32_t>(*bytes);
     }
   }
-  kbit_.Given = given("kbit");
-  if (known("kbit")) {
-    kbit_.Known = facts.at("kbit").get<std::int16_t>();
+  kbit_.Given = facts.contains("kbit");
+  if (IsKnown(facts, "kbit")) {
+    kbit_.Known = NumberField<std::int16_t>(facts, "kbit");
   }
-  exif_.Given = given("exif");
-  if (known("exif")) {
+  exif_.Given = facts.contains("exif");
+  if (IsKnown(facts, "exif")) {
     exif_.Known.emplace();
-    for (const auto& [number, text] : facts.at("exif").items()) {
-      std::int32_t tag = 0;
-      const char* end = number.data() + number.size();
-      const auto read = std::from_chars(number.data(), end, tag);
-      if (read.ec != std::errc() || read.ptr != end) {
-        ThrowUnreadable("exif");
-      }
-      exif_.Known->emplace(tag, TextOfJson(text.get<std::string>()));
+    for (const auto& [number, text] : ObjectField(facts, "exif")->items()) {
+      exif_.Known->emplace(ReadTagNumber(number), TextOfValue(text, "exif " + number));
     }
   }
 }
@@ -79,10 +83,10 @@ GivenFacts::GivenFacts(const Json& facts, EntryFacts& disk) : disk_(disk) {
 GivenFacts::Fact<DateTime> GivenFacts::DateFact(const Json& facts, const char* name) const {
   Fact<DateTime> fact;
   fact.Given = facts.contains(name);
-  if (fact.Given && !facts.at(name).is_null()) {
-    fact.Known = ReadTimestamp(facts.at(name).get<std::string>());
+  if (IsKnown(facts, name)) {
+    fact.Known = ReadTimestamp(TextOfValue(facts.at(name), name));
     if (!fact.Known) {
-      ThrowUnreadable(name);
+      throw CommandError(ExitStatus::Usage, std::string(name) + ": expected YYYY-MM-DDTHH:MM:SS");
     }
   }
   return fact;

@@ -8,7 +8,7 @@ namespace vorlane {
 
 namespace {
 
-// In front of four hex digits it stands for one UTF-16 unit: a lone surrogate, or itself.
+// In front of four hex digits it stands for one UTF-16 unit: a lone surrogate, U+0000, or itself.
 constexpr char16_t Mark = 0xE000;
 constexpr std::string_view MarkBytes = "\xEE\x80\x80";
 constexpr std::size_t HexDigits = 4;
@@ -87,7 +87,7 @@ std::string JsonString(TextView text) {
     const char16_t unit = text[i];
     if (IsHigh(unit) && i + 1 < text.size() && IsLow(text[i + 1])) {
       marked.append(text.substr(i++, 2));
-    } else if (IsHigh(unit) || IsLow(unit) || unit == Mark) {
+    } else if (IsHigh(unit) || IsLow(unit) || unit == Mark || unit == 0) {
       marked.append(1, Mark).append(AsciiText(HexOf(unit)));
     } else {
       marked.push_back(unit);

@@ -5,8 +5,9 @@
 namespace vorlane {
 
 void ListArguments::AddTo(CLI::App& command) {
-  command.add_option("FOLDER", Folder, "The folder to work on")->required();
-  command.add_option("--wildcard", Wildcard, "List only names that match, such as *.mp3");
+  command.add_option("FOLDER", Folder, "The folder to work on")->type_name("")->required();
+  command.add_option("--wildcard", Wildcard, "List only names that match, such as *.mp3")
+      ->type_name("W");
   command.add_flag("--recursive", Recursive, "Include sub-folders");
   command.add_flag("--folders", Folders, "List folders instead of files");
 }
@@ -14,7 +15,10 @@ void ListArguments::AddTo(CLI::App& command) {
 void ListArguments::List(Session& session, TextView defaultWildcard) const {
   Form& form = session.State;
   form.CurrentPath = FolderArgument(session.Files, Folder);
-  form.WildCard = Wildcard.empty() ? Text(defaultWildcard) : TextFromBytes(Wildcard);
+  form.WildCard = Wildcard ? TextFromBytes(*Wildcard) : Text(defaultWildcard);
+  if (form.WildCard.empty()) {
+    form.WildCard = u"*.*";
+  }
   form.IncludeSubFolders = Recursive;
   form.ListFolders = Folders;
   form.SelectedOperation = 0;

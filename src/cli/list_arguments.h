@@ -2,6 +2,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <optional>
 #include <string>
 
 #include "cli/session.h"
@@ -10,13 +11,14 @@ namespace vorlane {
 
 struct ListArguments {
   std::string Folder;
-  std::string Wildcard;
+  std::optional<std::string> Wildcard;
   bool Recursive = false;
   bool Folders = false;
 
   void AddTo(CLI::App& command);
 
-  // Fills the session's list; no operation is selected meanwhile, so nothing is previewed yet.
+  // Fills the session's list. As in the window's wildcard box, the empty text means "*.*". No
+  // operation is selected meanwhile, so nothing is previewed yet.
   void List(Session& session, TextView defaultWildcard) const;
 };
 

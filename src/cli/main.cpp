@@ -3,18 +3,34 @@
 #include <iostream>
 
 #include "cli/command.h"
+#include "cli/message.h"
+#include "platform/failure.h"
 
 namespace {
 
-int FailWith(vorlane::ExitStatus status, const std::string& message) {
-  std::cerr << "vorlane-cli: " << message.substr(0, message.find('\n')) << '\n';
+using vorlane::ExitStatus;
+
+template <typename Message>
+int FailWith(ExitStatus status, const Message& message) {
+  vorlane::PrintMessage(message);
   return static_cast<int>(status);
+}
+
+// Throws CommandError for a first word that is neither a command nor an option.
+void RequireCommand(const CLI::App& app, int argc, char** argv) {
+  if (argc < 2) {
+    throw vorlane::CommandError(ExitStatus::Usage, "a command is required; --help lists them");
+  }
+  const std::string first = argv[1];
+  const auto isCalled = [&](const CLI::App* command) { return command->get_name() == first; };
+  if (!first.starts_with("-") && app.get_subcommands(isCalled).empty()) {
+    throw vorlane::CommandError(ExitStatus::Usage, "no such command: " + first);
+  }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  using vorlane::ExitStatus;
   CLI::App app{"Renames files and folders by the operations of Vorlane.", "vorlane-cli"};
   app.require_subcommand(1);
   auto status = ExitStatus::Done;
@@ -30,15 +46,20 @@ int main(int argc, char** argv) {
   }
   app.set_version_flag("--version", "vorlane-cli " VORLANE_VERSION);
   try {
+    RequireCommand(app, argc, argv);
     app.parse(argc, argv);
-    std::cout.flush();
-    return static_cast<int>(std::cout ? status : ExitStatus::Refused);
+    if (!std::cout.flush()) {
+      return FailWith(ExitStatus::Refused, "can't write to standard output");
+    }
+    return static_cast<int>(status);
   } catch (const CLI::Success& wanted) {  // --help, --version
     return app.exit(wanted);
   } catch (const CLI::ParseError& error) {
     return FailWith(ExitStatus::Usage, error.what());
   } catch (const vorlane::CommandError& error) {
     return FailWith(error.Status(), error.what());
+  } catch (const vorlane::RunError& error) {
+    return FailWith(ExitStatus::Refused, error.Description());
   } catch (const std::exception& error) {
     return FailWith(ExitStatus::Refused, error.what());
   }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/remaining_arguments.h"
 #include "filelist/wildcard.h"
 #include "platform/file_name_bytes.h"
 
@@ -34,8 +35,9 @@ void AddMatchCommand(CLI::App& app, ExitStatus& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("match", "Print the names that a wildcard accepts");
   command->add_option("WILDCARD", arguments->Wildcard, "The wildcard, as the list uses it")
+      ->type_name("")
       ->required();
-  command->add_option("NAME", arguments->Names, "Names to try")->required();
+  AddRemainingArguments(*command, "NAME", arguments->Names, "Names to try");
   command->callback([arguments, &status] { status = PrintMatches(*arguments); });
 }
 

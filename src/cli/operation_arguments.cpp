@@ -4,7 +4,7 @@
 #include <charconv>
 
 #include "cli/box_argument.h"
-#include "cli/row_output.h"
+#include "cli/whole_number.h"
 #include "platform/file_name_bytes.h"
 #include "platform/letter_case.h"
 
@@ -28,29 +28,44 @@ Text PathOfTitles(const OperationsTree& tree, const OperationNode& node) {
 void OperationArguments::AddTo(CLI::App& command) {
   Entries.AddTo(command);
   CLI::Option* operation =
-      command.add_option("--operation", Operation, "Index or path of titles, \"Case/Upper case\"");
-  CLI::Option* code =
-      command.add_option("--code", Codes, "One step of code; repeat for more steps");
-  code->allow_extra_args(false)->excludes(operation);
-  command.add_option("--catalogue", Catalogue, "Read this operations file");
-  command.add_option("--box", BoxTexts, "N=TEXT: the text typed in box N")->allow_extra_args(false);
-  command.add_option("--check", Checks, "N: tick the check box of box N")->allow_extra_args(false);
-  command.add_option("--only", Only, "Do only the row with this name")->allow_extra_args(false);
+      command.add_option("--operation", Operation, "Index or path of titles, \"Case/Upper case\"")
+          ->type_name("OP");
+  command.add_option("--code", Codes, "One step of code; repeat for more steps")
+      ->type_name("STEP")
+      ->allow_extra_args(false)
+      ->excludes(operation);
+  command.add_option("--catalogue", Catalogue, "Read this operations file")->type_name("FILE");
+  command.add_option("--box", BoxTexts, "The text typed in box N")
+      ->type_name("N=TEXT")
+      ->allow_extra_args(false);
+  command.add_option("--check", Checks, "Tick the check box of box N")
+      ->type_name("N")
+      ->transform(WholeNumber())
+      ->allow_extra_args(false);
+  command.add_option("--only", Only, "Do only the row with this name; repeat for more rows")
+      ->type_name("NAME")
+      ->allow_extra_args(false);
   command.add_flag("--json", AsJson, "Print JSON");
   command.add_flag("--all", All, "Print unchanged rows too");
 }
 
 void OperationArguments::Prepare(Session& session) const {
-  if (Operation.empty() && Codes.empty()) {
+  if (!Operation && Codes.empty()) {
     throw CommandError(ExitStatus::Usage, "--operation or --code is required");
   }
   Form& form = session.State;
   OperationKeys keys;
   LoadCodes(session, keys);
+  FillBoxes(form, keys);  // wrong ones are told of before anything is listed
+  form.Boxes = {};        // the listing would put values of its own into them
   const std::int32_t operation = form.SelectedOperation;
   Entries.List(session, keys.Wildcard.value_or(Text(u"*.*")));
   form.SelectedOperation = operation;
   form.DoAll = Only.empty();
+  FillBoxes(form, keys);
+}
+
+void OperationArguments::FillBoxes(Form& form, const OperationKeys& keys) const {
   ShowBoxes(form, keys);
   TickChecks(form);
   TypeBoxTexts(form);
@@ -72,7 +87,7 @@ void OperationArguments::LoadCodes(Session& session, OperationKeys& keys) const 
   }
   OperationsTree tree = CatalogueArgument(session.Files, Catalogue);
   if (tree.Failure) {
-    PrintMessage(DescribeFailure(tree));
+    session.Troubles.Tell(DescribeFailure(tree));
   }
   form.SelectedOperation = FindOperation(tree);
   form.OperationCodes = std::move(tree.OperationCodes);
@@ -84,10 +99,10 @@ void OperationArguments::LoadCodes(Session& session, OperationKeys& keys) const 
 
 std::int32_t OperationArguments::FindOperation(const OperationsTree& tree) const {
   std::int32_t index = 0;
-  const char* end = Operation.data() + Operation.size();
-  const auto read = std::from_chars(Operation.data(), end, index);
+  const char* end = Operation->data() + Operation->size();
+  const auto read = std::from_chars(Operation->data(), end, index);
   const bool isIndex = read.ec == std::errc() && read.ptr == end;
-  const Text wanted = TextFromBytes(Operation);
+  const Text wanted = TextFromBytes(*Operation);
   const auto find = [&](auto&& fits) {
     const auto found = std::find_if(tree.Nodes.begin(), tree.Nodes.end(), fits);
     return found == tree.Nodes.end() ? 0 : found->Index;
@@ -95,19 +110,20 @@ std::int32_t OperationArguments::FindOperation(const OperationsTree& tree) const
   std::int32_t found = 0;
   if (isIndex) {
     found = find([&](const OperationNode& node) { return node.Index == index; });
-  } else {
-    found = find([&](const OperationNode& node) { return PathOfTitles(tree, node) == wanted; });
-    if (found == 0) {
-      found = find([&](const OperationNode& node) {
-        return EqualIgnoringCase(PathOfTitles(tree, node), wanted);
-      });
-    }
   }
   if (found == 0) {
-    throw CommandError(ExitStatus::NotFound, "no such operation: " + Operation);
+    found = find([&](const OperationNode& node) { return PathOfTitles(tree, node) == wanted; });
+  }
+  if (found == 0) {
+    found = find([&](const OperationNode& node) {
+      return EqualIgnoringCase(PathOfTitles(tree, node), wanted);
+    });
+  }
+  if (found == 0) {
+    throw CommandError(ExitStatus::NotFound, "no such operation: " + *Operation);
   }
   if (tree.OperationCodes[static_cast<std::size_t>(found)].empty()) {
-    throw CommandError(ExitStatus::NotFound, "a heading, not an operation: " + Operation);
+    throw CommandError(ExitStatus::NotFound, "a heading, not an operation: " + *Operation);
   }
   return found;
 }
@@ -144,6 +160,8 @@ void OperationArguments::TypeBoxTexts(Form& form) const {
                                                 std::to_string(typed.Index + 1));
     }
     box.Content = typed.Content;
+    // A box can't refer to itself.
+    ReplaceAll(box.Content, u"<BOX" + DecimalText(static_cast<int>(typed.Index) + 1) + u">", u"");
     form.BoxEdited = true;
   }
 }
@@ -161,19 +179,30 @@ void OperationArguments::TickChecks(Form& form) const {
   }
 }
 
-std::vector<std::int32_t> OperationArguments::OnlyRows(const Form& form) const {
-  std::vector<std::int32_t> rows;
+std::vector<std::int32_t> OperationArguments::OnlyRows(const FileRows& rows) const {
+  std::vector<std::int32_t> found;
   for (const std::string& name : Only) {
     const Text wanted = TextFromBytes(name);
-    const auto before = rows.size();
-    for (std::int32_t row = 1; row <= form.Rows.Count(); ++row) {
-      if (form.Rows.At(row).Name == wanted) {
-        rows.push_back(row);
+    const auto before = found.size();
+    for (std::int32_t row = 1; row <= rows.Count(); ++row) {
+      if (rows.At(row).Name == wanted) {
+        found.push_back(row);
       }
     }
-    if (rows.size() == before) {
+    if (found.size() == before) {
       throw CommandError(ExitStatus::NotFound, "not in the list: " + name);
     }
+  }
+  std::sort(found.begin(), found.end());
+  found.erase(std::unique(found.begin(), found.end()), found.end());
+  return found;
+}
+
+std::vector<std::int32_t> OperationArguments::PreviewOnly(Session& session) const {
+  const auto rows = OnlyRows(session.State.Rows);
+  for (const std::int32_t row : rows) {
+    SelectRow(session, row);
+    session.Previews.UpdateFilePreviewAll(false, row);
   }
   return rows;
 }

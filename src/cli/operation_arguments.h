@@ -1,6 +1,7 @@
 // The arguments of preview and apply: what is listed, which operation, and what its boxes hold.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,9 +13,9 @@ namespace vorlane {
 
 struct OperationArguments {
   ListArguments Entries;
-  std::string Operation;
+  std::optional<std::string> Operation;
   std::vector<std::string> Codes;
-  std::string Catalogue;
+  std::optional<std::string> Catalogue;
   std::vector<std::string> BoxTexts;  // "N=TEXT"
   std::vector<int> Checks;
   std::vector<std::string> Only;
@@ -27,9 +28,10 @@ struct OperationArguments {
   // Throws CommandError.
   void Prepare(Session& session) const;
 
-  // The rows that --only names, in its order. Throws CommandError (NotFound) for a name that isn't
-  // listed.
-  std::vector<std::int32_t> OnlyRows(const Form& form) const;
+  // Previews the rows that --only names, one by one as in One mode, and returns them from the top
+  // down: a proposal takes account of those above it. Throws CommandError (NotFound) for a name
+  // that isn't listed.
+  std::vector<std::int32_t> PreviewOnly(Session& session) const;
 
   // Selects the row as a click does, and types the box texts again.
   void SelectRow(Session& session, std::int32_t row) const;
@@ -37,9 +39,11 @@ struct OperationArguments {
  private:
   std::int32_t FindOperation(const OperationsTree& tree) const;
   void LoadCodes(Session& session, OperationKeys& keys) const;
+  void FillBoxes(Form& form, const OperationKeys& keys) const;
   void ShowBoxes(Form& form, const OperationKeys& keys) const;
   void TypeBoxTexts(Form& form) const;
   void TickChecks(Form& form) const;
+  std::vector<std::int32_t> OnlyRows(const FileRows& rows) const;
 };
 
 }  // namespace vorlane

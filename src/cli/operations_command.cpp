@@ -1,10 +1,12 @@
 // vorlane-cli operations: the tree of the catalogue.
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "catalogue/operation_keys.h"
 #include "cli/command.h"
 #include "cli/json_text.h"
+#include "cli/message.h"
 #include "cli/session.h"
 #include "platform/file_name_bytes.h"
 
@@ -13,7 +15,7 @@ namespace vorlane {
 namespace {
 
 struct Arguments {
-  std::string Catalogue;
+  std::optional<std::string> Catalogue;
   bool AsJson = false;
 };
 
@@ -68,7 +70,8 @@ ExitStatus ListOperations(const Arguments& arguments) {
 void AddOperationsCommand(CLI::App& app, ExitStatus& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("operations", "Print the tree of operations");
-  command->add_option("--catalogue", arguments->Catalogue, "Read this operations file");
+  command->add_option("--catalogue", arguments->Catalogue, "Read this operations file")
+      ->type_name("FILE");
   command->add_flag("--json", arguments->AsJson, "Print JSON");
   command->callback([arguments, &status] { status = ListOperations(*arguments); });
 }

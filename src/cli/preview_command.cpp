@@ -13,18 +13,13 @@ namespace vorlane {
 namespace {
 
 std::vector<std::int32_t> PreviewRows(const OperationArguments& arguments, Session& session) {
-  if (arguments.Only.empty()) {
-    session.Previews.UpdateFilePreviewAll(true, 0);
-    std::vector<std::int32_t> all(static_cast<std::size_t>(session.State.Rows.Count()));
-    std::iota(all.begin(), all.end(), 1);
-    return all;
+  if (!arguments.Only.empty()) {
+    return arguments.PreviewOnly(session);
   }
-  const auto rows = arguments.OnlyRows(session.State);
-  for (const std::int32_t row : rows) {
-    arguments.SelectRow(session, row);
-    session.Previews.UpdateFilePreviewAll(false, row);
-  }
-  return rows;
+  session.Previews.UpdateFilePreviewAll(true, 0);
+  std::vector<std::int32_t> all(static_cast<std::size_t>(session.State.Rows.Count()));
+  std::iota(all.begin(), all.end(), 1);
+  return all;
 }
 
 ExitStatus PrintPreview(const OperationArguments& arguments) {

@@ -9,7 +9,9 @@
 namespace vorlane {
 
 Session::Session()
-    : Progress(Time),
+    : Report(Troubles),
+      Boxes(Troubles),
+      Progress(Time),
       Outside{Files, Time, Loop, Report, Boxes},
       State(Progress, Loop),
       Facts(Outside.Files, Outside.Time, Outside.Report, Outside.Prompts),
@@ -20,7 +22,7 @@ Session::Session()
 }
 
 ExitStatus Session::Status() const {
-  return Report.HasReported() || Boxes.HasWarned() ? ExitStatus::Refused : ExitStatus::Done;
+  return Troubles.HasAny() ? ExitStatus::Refused : ExitStatus::Done;
 }
 
 Text FolderArgument(FileSystem& files, const std::string& folder) {
@@ -37,8 +39,8 @@ Text FolderArgument(FileSystem& files, const std::string& folder) {
   return text;
 }
 
-OperationsTree CatalogueArgument(FileSystem& files, const std::string& file) {
-  if (file.empty()) {
+OperationsTree CatalogueArgument(FileSystem& files, const std::optional<std::string>& file) {
+  if (!file) {
     const Text folder = ProgramFolder();
     auto tree = LoadOperationsFile(files, folder);
     if (!tree) {
@@ -47,9 +49,9 @@ OperationsTree CatalogueArgument(FileSystem& files, const std::string& file) {
     }
     return *std::move(tree);
   }
-  const Text path = TextFromBytes(file);
+  const Text path = TextFromBytes(*file);
   if (files.StatusOf(path).Kind != EntryKind::File) {
-    throw CommandError(ExitStatus::NotFound, "no such catalogue: " + file);
+    throw CommandError(ExitStatus::NotFound, "no such catalogue: " + *file);
   }
   return LoadOperationsFileAt(files, path);
 }

@@ -2,6 +2,7 @@
 // window's, on the real disk, with nobody at the controls.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "catalogue/operations_file.h"
@@ -20,6 +21,7 @@ struct Session {
 
   SystemClock Time;
   PosixFileSystem Files;
+  TroubleLog Troubles;
   ConsoleReport Report;
   ConsolePrompter Boxes;
   ConsoleLoop Loop;
@@ -30,7 +32,7 @@ struct Session {
   Preview Previews;
   FileList List;
 
-  // Done unless something was reported or warned of.
+  // Done unless there was trouble.
   ExitStatus Status() const;
 };
 
@@ -38,9 +40,9 @@ struct Session {
 // if it isn't a folder.
 Text FolderArgument(FileSystem& files, const std::string& folder);
 
-// A catalogue file's tree; the shipped one for an empty name. Throws CommandError (NotFound) if
-// there is no such file.
-OperationsTree CatalogueArgument(FileSystem& files, const std::string& file);
+// A catalogue file's tree, that of the shipped one if none is named. Throws CommandError (NotFound)
+// if there is no such file.
+OperationsTree CatalogueArgument(FileSystem& files, const std::optional<std::string>& file);
 
 // What is wrong with a catalogue, in one line.
 Text DescribeFailure(const OperationsTree& tree);

@@ -1,14 +1,8 @@
 #include "cli/tag_json.h"
 
+#include "cli/json_fields.h"
+
 namespace vorlane {
-
-namespace {
-
-Text TextField(const Json& json, const char* name) {
-  return json.contains(name) ? TextOfJson(json.at(name).get<std::string>()) : Text();
-}
-
-}  // namespace
 
 Json TagToJson(const ID3Tag& tag) {
   return {{"present", tag.Present},         {"artist", JsonString(tag.Artist)},
@@ -18,17 +12,17 @@ Json TagToJson(const ID3Tag& tag) {
           {"unicode", tag.Unicode}};
 }
 
-ID3Tag TagOfJson(const Json& json) {
+ID3Tag TagOfJson(const Json& object) {
   ID3Tag tag;
-  tag.Present = json.value("present", false);
-  tag.Artist = TextField(json, "artist");
-  tag.Title = TextField(json, "title");
-  tag.Album = TextField(json, "album");
-  tag.Track = TextField(json, "track");
-  tag.Comment = TextField(json, "comment");
-  tag.Year = TextField(json, "year");
-  tag.Genre = json.value("genre", std::int16_t{0});
-  tag.Unicode = json.value("unicode", false);
+  tag.Present = FlagField(object, "present").value_or(false);
+  tag.Artist = TextField(object, "artist").value_or(Text());
+  tag.Title = TextField(object, "title").value_or(Text());
+  tag.Album = TextField(object, "album").value_or(Text());
+  tag.Track = TextField(object, "track").value_or(Text());
+  tag.Comment = TextField(object, "comment").value_or(Text());
+  tag.Year = TextField(object, "year").value_or(Text());
+  tag.Genre = NumberField<std::int16_t>(object, "genre").value_or(std::int16_t{0});
+  tag.Unicode = FlagField(object, "unicode").value_or(false);
   return tag;
 }
 

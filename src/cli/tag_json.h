@@ -9,8 +9,8 @@ namespace vorlane {
 
 Json TagToJson(const ID3Tag& tag);
 
-// Fields that aren't there keep what an absent tag has. Throws Json::exception for a field of the
-// wrong kind.
-ID3Tag TagOfJson(const Json& json);
+// Fields that aren't there keep what an absent tag has. Throws CommandError (Usage) for a field of
+// the wrong kind.
+ID3Tag TagOfJson(const Json& object);
 
 }  // namespace vorlane

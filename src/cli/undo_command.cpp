@@ -7,6 +7,7 @@
 #include "cli/row_output.h"
 #include "cli/session.h"
 #include "platform/code_page.h"
+#include "platform/console.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
@@ -18,18 +19,44 @@ struct Arguments {
   bool AsJson = false;
 };
 
+// Ends a replay between two records, so that the journal stays.
+struct ReplayStopped {};
+
 class RecordPrinter final : public UndoListener {
  public:
-  explicit RecordPrinter(bool asJson) {
+  RecordPrinter(Session& session, bool asJson) : session_(session) {
     if (asJson) {
       json_ = std::make_unique<JsonListPrinter>();
     }
   }
 
   void RecordReplayed(std::string_view line, UndoOutcome outcome, TextView reason) override {
-    const bool done = outcome == UndoOutcome::Done;
+    // The replay passes over what a writer of tags reports.
+    const Text trouble = session_.Troubles.Take();
+    const bool done = outcome == UndoOutcome::Done && trouble.empty();
     (done ? done_ : skipped_) += 1;
-    const Text record = TextFromCodePage(line);
+    Print(TextFromCodePage(line), done, reason.empty() ? TextView(trouble) : reason);
+    if (StopSignalled()) {
+      throw ReplayStopped();
+    }
+  }
+
+  // Ends the output; a summary goes to standard error, with JSON only if the replay was stopped.
+  // True if nothing was skipped.
+  bool Finish(bool stopped) {
+    if (json_ != nullptr) {
+      json_->Finish();
+    }
+    std::cout.flush();
+    if (json_ == nullptr || stopped) {
+      std::cerr << done_ << " done, " << skipped_ << " skipped"
+                << (stopped ? ", stopped: the journal stays\n" : "\n");
+    }
+    return skipped_ == 0;
+  }
+
+ private:
+  void Print(const Text& record, bool done, TextView reason) {
     if (json_ != nullptr) {
       Json object{{"record", JsonString(record)}, {"done", done}};
       if (!reason.empty()) {
@@ -42,33 +69,39 @@ class RecordPrinter final : public UndoListener {
     }
   }
 
-  ExitStatus Finish() {
-    if (json_ != nullptr) {
-      json_->Finish();
-    }
-    std::cout.flush();
-    std::cerr << done_ << " done, " << skipped_ << " skipped\n";
-    return skipped_ > 0 ? ExitStatus::Refused : ExitStatus::Done;
-  }
-
- private:
+  Session& session_;
   std::unique_ptr<JsonListPrinter> json_;
   std::size_t done_ = 0;
   std::size_t skipped_ = 0;
 };
 
+void RequireJournal(Session& session, const std::string& folder) {
+  try {
+    if (!JournalExists(session.Files, session.State.CurrentPath)) {
+      throw CommandError(ExitStatus::NotFound, "no journal in " + folder);
+    }
+  } catch (const RunError& error) {
+    throw CommandError(ExitStatus::Refused, "can't read the journal in " + folder + ": " +
+                                                DisplayUtf8(error.Description()));
+  }
+}
+
 ExitStatus Undo(const Arguments& arguments) {
+  CatchStopSignals();
   Session session;
   session.State.CurrentPath = FolderArgument(session.Files, arguments.Folder);
-  if (!JournalExists(session.Files, session.State.CurrentPath)) {
-    throw CommandError(ExitStatus::NotFound, "no journal in " + arguments.Folder);
-  }
-  RecordPrinter printer(arguments.AsJson);
+  RequireJournal(session, arguments.Folder);
+  RecordPrinter printer(session, arguments.AsJson);
   UndoRun undo(session.State, session.Outside, session.List, &printer);
-  undo.cmdUndo_Click();
+  bool stopped = false;
+  try {
+    undo.cmdUndo_Click();
+  } catch (const ReplayStopped&) {
+    stopped = true;
+  }
   session.Progress.Clear();
-  const ExitStatus printed = printer.Finish();
-  return printed == ExitStatus::Done ? session.Status() : printed;
+  const bool nothingSkipped = printer.Finish(stopped);
+  return nothingSkipped && !stopped ? session.Status() : ExitStatus::Refused;
 }
 
 }  // namespace
@@ -76,7 +109,9 @@ ExitStatus Undo(const Arguments& arguments) {
 void AddUndoCommand(CLI::App& app, ExitStatus& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("undo", "Take back the last run on a folder");
-  command->add_option("FOLDER", arguments->Folder, "The folder that the run worked on")->required();
+  command->add_option("FOLDER", arguments->Folder, "The folder that the run worked on")
+      ->type_name("")
+      ->required();
   command->add_flag("--json", arguments->AsJson, "Print JSON");
   command->callback([arguments, &status] { status = Undo(*arguments); });
 }

@@ -1,0 +1,44 @@
+// Progress and escape codes: on a terminal's standard error only.
+#include "cli/many_files.h"
+#include "cli/run_cli.h"
+
+namespace vorlane {
+namespace {
+
+class CliTerminal : public testing::Test {
+ protected:
+  CliTerminal() { WriteMany(folder_, 1500); }
+
+  ProgramCall Call(bool onTerminal) {
+    return {.Arguments = {"apply", folder_.Path(), "--code", "new <FILENAME>"},
+            .ErrorsOnTerminal = onTerminal};
+  }
+
+  TemporaryFolder folder_;
+};
+
+// Progress is shown once a job has taken its time: its output is read so slowly that it does.
+TEST_F(CliTerminal, ALongJobShowsItsProgressThereAndTakesItAway) {
+  RunningProgram program(VORLANE_CLI, Call(true));
+  while (program.ReadErrors().find('%') == std::string::npos) {
+    program.ReadSomeOutput();
+  }
+  const ProgramResult result = program.Finish();
+  EXPECT_EQ(result.Status, 0);
+  EXPECT_TRUE(result.Errors.ends_with("\r\x1b[K1500 of 1500 changed\r\n")) << result.Errors;
+  EXPECT_EQ(result.Output.find('\x1b'), std::string::npos);
+}
+
+TEST_F(CliTerminal, WithoutATerminalThereIsNone) {
+  RunningProgram program(VORLANE_CLI, Call(false));
+  for (int reading = 0; reading < 70; ++reading) {  // each waits for a moment
+    program.ReadErrors();
+    program.ReadSomeOutput();
+  }
+  const ProgramResult result = program.Finish();
+  EXPECT_EQ(result.Errors, "1500 of 1500 changed\n");
+  EXPECT_EQ(result.Output.find('\x1b'), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vorlane
