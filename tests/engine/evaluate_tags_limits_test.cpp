@@ -66,6 +66,14 @@ TEST(EndlessCodes, OneThatGrowsByLittleEndsAfterTenThousandPasses) {
   EXPECT_EQ(evaluate(u"<MID></MID>", u"<MID></MID>a"), u"<MID></MID>" + Repeated(u"a", 10'000));
 }
 
+// Each pass is longer than the one before; without a bound on their sum this takes a minute.
+TEST(EndlessCodes, OneThatGrowsByMuchEndsLongBeforeTenThousandPasses) {
+  Evaluator evaluate;
+  const Text code = u"<REPLACE>?ASCII>x?/ASCII>" + Repeated(u"y", 50) + u"|?|<|</REPLACE>";
+  EXPECT_GT(evaluate(code).size(), 1000U);
+  EXPECT_LT(evaluate.Loop.Yields, 5000);
+}
+
 TEST(DeepNesting, OfThousandsOfLevelsIsResolved) {
   Evaluator evaluate;
   constexpr int levels = 2'700;
