@@ -42,6 +42,21 @@ build() { # build PRESET
   cmake --preset "$1" && cmake --build --preset "$1"
 }
 
+# Every fuzz target, once over each input that is kept for it.
+replay() { # replay PRESET
+  local bin=build/$1/bin seeds target
+  for target in "$bin"/*_replay; do
+    case $(basename "$target") in
+    id3*) seeds=tests/data/id3 ;;
+    exif*) seeds=tests/data/exif ;;
+    catalogue*) seeds="fuzz/corpus/catalogue data" ;;
+    *) seeds=fuzz/corpus/$(basename "$target" _replay) ;;
+    esac
+    # shellcheck disable=SC2086  # several folders
+    check "$(basename "$target") over $seeds" "$target" $seeds
+  done
+}
+
 sources() { git ls-files -z --cached --others --exclude-standard "$@"; }
 
 format_is_kept() { sources '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror; }
@@ -59,6 +74,7 @@ for preset in core asan; do
     [[ -x "$program" ]] && test_program "$program"
   done
 done
+replay asan
 check "lint" lint_is_clean
 
 echo "$passed passed, $failed failed"

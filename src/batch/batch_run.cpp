@@ -7,9 +7,12 @@
 namespace vorlane {
 
 void BatchRun::cmdGo_Click(JournalStart start) {
-  if (form_.Rows.Count() == 0) {
+  const bool busy = form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle ||
+                    form_.Jobs.ListingState != JobState::Idle;
+  if (form_.Rows.Count() == 0 || busy) {
     return;
   }
+  const JournalInUse inUse(form_);
   form_.SetPointer(MousePointer::ArrowHourglass);
   form_.View.ControlEnabled(FormControl::FileList, false);
   WaitForStop(form_.Jobs.PreviewState, 3, services_.Time, services_.Loop);
@@ -18,11 +21,12 @@ void BatchRun::cmdGo_Click(JournalStart start) {
   form_.LockControls();
   form_.Jobs.BatchState = JobState::Running;
   form_.SetPointer(MousePointer::ArrowHourglass);
+  folder_ = form_.CurrentPath;
   ReportingFailures(services_.Report, FormName, u"cmdGo_Click", u"", [&] {
     if (start == JournalStart::New) {
-      journal_.CreateUndoFile(form_.CurrentPath);
+      journal_.CreateUndoFile(folder_);
     } else {
-      journal_.ContinueUndoFile(form_.CurrentPath);
+      journal_.ContinueUndoFile(folder_);
     }
     RunRows();
   });
@@ -36,6 +40,7 @@ void BatchRun::cmdGo_Click(JournalStart start) {
 
 void BatchRun::RunRows() {
   form_.SetSorted(false);  // a changed name must not move its row during the run
+  generation_ = form_.Rows.Generation();
   if (form_.DoAll) {
     form_.View.EnsureVisible(1);
     preview_.UpdateFilePreviewAll(true, 0);
@@ -47,7 +52,7 @@ void BatchRun::RunRows() {
   const std::int32_t count = form_.Rows.Count();
   bool fallback = false;
   for (std::int32_t row = 1; row <= count; ++row) {
-    if (form_.Jobs.BatchState == JobState::StopRequested) {
+    if (form_.Jobs.BatchState == JobState::StopRequested || IsListReplaced()) {
       return;
     }
     if (!form_.DoAll && !FindRowToRun(row, fallback, rowsPerPage)) {
@@ -56,7 +61,7 @@ void BatchRun::RunRows() {
     form_.SetStatus(TimeTaken(), static_cast<int>(std::int64_t{row} * 100 / count));
     if (!form_.DoAll && form_.Rows.Selected() != row) {
       // A marked row that isn't selected is tried again until it is, or until Stop.
-      services_.Loop.YieldBlocking(20);
+      services_.Loop.YieldBlocking(fallback ? 0 : 20);
       continue;
     }
     ProcessRow(row, rowsPerPage);
@@ -77,6 +82,12 @@ void BatchRun::RunRows() {
   FinishJournal();
 }
 
+// True if another list stands in the place of the one that the run began with. Its rows are
+// nobody's wish to rename.
+bool BatchRun::IsListReplaced() const {
+  return form_.Rows.Generation() != generation_;
+}
+
 // In One mode the row under the selection mark is the one to run; without a mark the rows are gone
 // through from the first. False if the list shows no rows.
 bool BatchRun::FindRowToRun(std::int32_t& row, bool& fallback, std::int32_t rowsPerPage) const {
@@ -93,6 +104,9 @@ bool BatchRun::FindRowToRun(std::int32_t& row, bool& fallback, std::int32_t rows
 }
 
 void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
+  if (IsListReplaced()) {
+    return;
+  }
   if (listener_ != nullptr) {
     listener_->RowStarted(row);
   }
@@ -100,22 +114,27 @@ void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
   if (form_.DoAll) {
     form_.SelectRow(row);
   }
+  const Text path = form_.Rows.PathOf(row);
   RowOutcome outcome{.Row = row, .Name = form_.Rows.At(row).Name};
   if (HasMp3Extension(outcome.Name)) {
-    const Text fullPath = form_.Rows.PathOf(row) + outcome.Name;
-    tagV1_ = ReadID3v1(services_.Files, services_.Report, fullPath);
-    tagV2_ = ReadID3v2(services_.Files, services_.Report, fullPath);
+    tagV1_ = ReadID3v1(services_.Files, services_.Report, path + outcome.Name);
+    tagV2_ = ReadID3v2(services_.Files, services_.Report, path + outcome.Name);
   }
   if (form_.DoAll) {
     preview_.UpdateBoxValues(row, tagV1_, tagV2_, true, false);
+  }
+  if (IsListReplaced()) {
+    return;
   }
   outcome.Steps = steps_.Run(row, tagV1_, tagV2_);
-  if (form_.DoAll) {
+  if (form_.DoAll && !IsListReplaced()) {
     preview_.UpdateBoxValues(row, tagV1_, tagV2_, true, false);
-  } else if (form_.Rows.At(row).Proposed == u"<File in Use>") {
+  } else if (!form_.DoAll && form_.Rows.At(row).Proposed == u"<File in Use>") {
     preview_.UpdateFilePreviewAll(false, row);  // it may be free by now
   }
-  RenameRow(row, outcome);
+  if (!IsListReplaced()) {
+    RenameRow(row, path, outcome);
+  }
   if (listener_ != nullptr) {
     listener_->RowFinished(outcome);
   }
@@ -127,7 +146,7 @@ void BatchRun::ScrollTo(std::int32_t row, std::int32_t rowsPerPage) {
   }
 }
 
-void BatchRun::RenameRow(std::int32_t row, RowOutcome& outcome) {
+void BatchRun::RenameRow(std::int32_t row, const Text& path, RowOutcome& outcome) {
   outcome.Proposed = form_.Rows.At(row).Proposed;
   const Text& proposed = outcome.Proposed;
   outcome.RenameTried =
@@ -135,8 +154,8 @@ void BatchRun::RenameRow(std::int32_t row, RowOutcome& outcome) {
   if (outcome.RenameTried) {
     // A refused rename leaves an open tag line open: the next record is glued to it, and undo
     // passes over both.
-    outcome.Rename = RenameFile(services_.Files, form_.Rows.PathOf(row), outcome.Name, proposed,
-                                RenameFor::Run, &journal_, outcome.Steps.StepTagPresent);
+    outcome.Rename = RenameFile(services_.Files, path, outcome.Name, proposed, RenameFor::Run,
+                                &journal_, outcome.Steps.StepTagPresent);
     if (outcome.Rename.Attempted) {
       form_.SetName(row, proposed);
       ++renamedCount_;
@@ -160,15 +179,14 @@ void BatchRun::FinishOneMode() {
   list_.lstFileListItemClick();
 }
 
-// A journal without records has nothing to undo.
+// A journal without records has nothing to undo. What another run left in a folder where this one
+// could make no journal isn't this run's to undo.
 void BatchRun::FinishJournal() {
-  const Text journal = JournalPath(form_.CurrentPath);
-  const bool exists = JournalExists(services_.Files, form_.CurrentPath);
-  const bool empty = exists && services_.Files.StatusOf(journal).Size == JournalHeaderSize;
-  if (empty) {
+  const Text journal = JournalPath(folder_);
+  if (journal_.IsOpen() && services_.Files.StatusOf(journal).Size == JournalHeaderSize) {
     services_.Files.RemoveFile(journal);
   }
-  form_.EnableUndo(exists && !empty);
+  form_.EnableUndo(journal_.IsOpen() && HiddenFileExists(services_.Files, journal));
 }
 
 Text BatchRun::TimeTaken() const {

@@ -51,15 +51,18 @@ class BatchRun {
         steps_(form, services, facts, journal_) {}
 
   // In All mode every row, in order; otherwise one selected row. A failure is reported and ends the
-  // run; what was done stays done and the journal stays on disk. So it does after a stop.
+  // run; what was done stays done and the journal stays on disk. So it does after a stop, and when
+  // another folder has been listed in the middle. Does nothing while a listing, a run or an undo is
+  // at work.
   void cmdGo_Click(JournalStart start = JournalStart::New);
 
  private:
   void RunRows();
+  bool IsListReplaced() const;
   bool FindRowToRun(std::int32_t& row, bool& fallback, std::int32_t rowsPerPage) const;
   void ProcessRow(std::int32_t row, std::int32_t rowsPerPage);
   void ScrollTo(std::int32_t row, std::int32_t rowsPerPage);
-  void RenameRow(std::int32_t row, RowOutcome& outcome);
+  void RenameRow(std::int32_t row, const Text& path, RowOutcome& outcome);
   void FinishOneMode();
   void FinishJournal();
   Text TimeTaken() const;
@@ -72,6 +75,8 @@ class BatchRun {
   UndoJournal journal_;
   RowSteps steps_;
   std::uint64_t start_ = 0;
+  Text folder_;                   // that the run works on; the form's own may change meanwhile
+  std::uint64_t generation_ = 0;  // of the list that the run began with
   std::int32_t renamedCount_ = 0;
   // The records of the last MP3 row; not cleared from row to row.
   ID3Tag tagV1_;

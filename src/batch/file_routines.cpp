@@ -41,17 +41,17 @@ void RemoveFolder(FileSystem& files, TextView path) {
 }
 
 bool MoveFile(FileSystem& files, TextView folder, TextView name, TextView newFolder,
-              TextView newName) {
+              TextView newName, RenameFor purpose) {
   if (name.empty() || newName.empty()) {
     return false;
   }
   const Text source = Join(folder, name);
   const Text target = Join(newFolder, newName);
-  if (!EntryExists(files, source) || !FolderExists(files, newFolder) ||
+  if (!SourceExists(files, source, purpose) || !FolderExists(files, newFolder) ||
       IsTargetTaken(files, target)) {
     return false;
   }
-  return files.RenameNoReplace(source, target) == RenameOutcome::Done && EntryExists(files, target);
+  return files.RenameNoReplace(source, target) == RenameOutcome::Done;
 }
 
 RenameResult RenameFile(FileSystem& files, TextView folder, TextView oldName, TextView newName,

@@ -18,22 +18,22 @@ std::int16_t CreatePath(FileSystem& files, Text& path, PathStyle style);
 // Removes the folder if it is empty.
 void RemoveFolder(FileSystem& files, TextView path);
 
+enum class RenameFor : std::uint8_t {
+  Run,   // a hidden entry can't be renamed
+  Undo,  // what a run did may have left a hidden name, or a link that leads nowhere from there
+};
+
 // Moves an entry into another folder. False, and nothing changed, if a name is empty, the entry
 // isn't there, the new folder isn't, the target is taken (by whatever kind of entry), or the
 // system refuses, as it does between volumes.
 bool MoveFile(FileSystem& files, TextView folder, TextView name, TextView newFolder,
-              TextView newName);
+              TextView newName, RenameFor purpose = RenameFor::Run);
 
 struct RenameResult {
   // The checks passed and the rename was tried. This is what decides about the journal and the row.
   bool Attempted = false;
   // What came of it. A refusal by the system after the checks still counts as attempted.
   RenameOutcome Outcome = RenameOutcome::Refused;
-};
-
-enum class RenameFor : std::uint8_t {
-  Run,   // a hidden entry can't be renamed
-  Undo,  // a run may have given the entry a hidden name, so the source may be hidden
 };
 
 // Renames an entry within its folder, never over another. `journal` takes the record of it: null

@@ -51,7 +51,8 @@ std::string JournalHeader() {
 }
 
 bool IsJournalText(std::string_view head) {
-  return head.find(Warning) != std::string_view::npos || JournalHeader().starts_with(head);
+  return head.find(Warning) != std::string_view::npos ||
+         (head.size() >= ApplicationTitle.size() && JournalHeader().starts_with(head));
 }
 
 std::string JournalNameField(TextView name) {
@@ -66,7 +67,8 @@ std::string JournalFolderField(TextView folder, PathStyle style) {
   std::string field;
   bool afterSeparator = false;
   for (const char16_t unit : folder) {
-    const bool isSeparator = unit == Separator(style);
+    // "//" is the mark of an escape. Two backslashes are none, and begin the name of a server.
+    const bool isSeparator = style == PathStyle::Posix && unit == u'/';
     if (!(isSeparator && afterSeparator)) {
       AppendField(field, unit);
     }
@@ -91,6 +93,20 @@ Text TextOfJournalField(std::string_view field) {
     }
     text.push_back(CharacterOfByte(static_cast<std::uint8_t>(field[i])));
   }
+  return text;
+}
+
+std::string JournalTagFields(TextView tagText) {
+  Text text(tagText);
+  ReplaceAll(text, u"\r", u"//000D");
+  ReplaceAll(text, u"\n", u"//000A");
+  return CodePageBytes(text);
+}
+
+Text TextOfJournalTagFields(std::string_view fields) {
+  Text text = TextFromCodePage(fields);
+  ReplaceAll(text, u"//000D", u"\r");
+  ReplaceAll(text, u"//000A", u"\n");
   return text;
 }
 

@@ -22,13 +22,19 @@ inline constexpr std::uint64_t JournalHeaderSize = 193;
 
 std::string JournalHeader();
 
-// True if a file that begins with these bytes is a journal, also one whose header was cut short.
+// True if a file that begins with these bytes is a journal, also one whose header was cut short
+// behind the title. An empty file may be anybody's.
 bool IsJournalText(std::string_view head);
 
-// A field of a record: a bare name, or a folder, in which repeated separators become one.
+// A field of a record: a bare name, or a folder, in which repeated "/" become one.
 std::string JournalNameField(TextView name);
 std::string JournalFolderField(TextView folder, PathStyle style);
 Text TextOfJournalField(std::string_view field);
+
+// The nine fields of a tag as one piece of a record. They stand as they are but for line breaks,
+// which a tag's year may hold and which would end the record.
+std::string JournalTagFields(TextView tagText);
+Text TextOfJournalTagFields(std::string_view fields);
 
 // What is behind the header without the last line end, split into lines; none if there is no
 // header or nothing behind it.

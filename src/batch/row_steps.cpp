@@ -33,6 +33,15 @@ Text BeforeFirstBracket(const Text& field) {
   return field.substr(0, bracket);
 }
 
+// What both kinds of tag step have in the same places.
+void TakeFields(ID3Tag& tag, const std::vector<Text>& fields) {
+  tag.Present = true;
+  tag.Artist = BehindFirstBracket(Field(fields, 0));
+  tag.Title = Field(fields, 1);
+  tag.Album = Field(fields, 2);
+  tag.Comment = Field(fields, 3);
+}
+
 }  // namespace
 
 StepResults RowSteps::Run(std::int32_t row, const ID3Tag& tagV1, const ID3Tag& tagV2) {
@@ -78,11 +87,7 @@ void RowSteps::WriteTagV1(const RowInHand& in, const Text& step) {
   ID3Tag tag = in.TagV1;
   ID3Tag tagV2 = in.TagV2;
   const auto fields = TagFields(in, step, tag, tagV2);
-  tag.Present = true;
-  tag.Artist = BehindFirstBracket(Field(fields, 0));
-  tag.Title = Field(fields, 1);
-  tag.Album = Field(fields, 2);
-  tag.Comment = Field(fields, 3);
+  TakeFields(tag, fields);
   tag.Track = BeforeFirstBracket(Field(fields, 4));
   OpenTagLine(in, in.TagV1, 1);
   WriteID3v1(services_.Files, services_.Report, in.Path + in.Name, tag);
@@ -94,15 +99,11 @@ void RowSteps::WriteTagV2(const RowInHand& in, const Text& step) {
   ID3Tag tagV1 = in.TagV1;
   ID3Tag tag = in.TagV2;
   const auto fields = TagFields(in, step, tagV1, tag);
-  tag.Present = true;
-  tag.Artist = BehindFirstBracket(Field(fields, 0));
-  tag.Title = Field(fields, 1);
-  tag.Album = Field(fields, 2);
-  tag.Comment = Field(fields, 3);
+  TakeFields(tag, fields);
   tag.Track = Field(fields, 4);
   const bool removeV1 = Field(fields, 5).starts_with(u"1");
   OpenTagLine(in, in.TagV2, 2);
-  WriteID3v2({services_.Files, services_.Report, services_.Boxes, form_}, in.Path + in.Name, tag,
+  WriteID3v2({services_.Files, services_.Report, services_.Prompts, form_}, in.Path + in.Name, tag,
              removeV1);
   form_.SetArtistAndTitle(in.Row, tag);
   form_.SetTagPresence(in.Row, Column::ID3v2, true);
@@ -113,6 +114,9 @@ void RowSteps::WriteTagV2(const RowInHand& in, const Text& step) {
 
 void RowSteps::MakeFolder(const RowInHand& in, const Text& step, StepResults& results) {
   Text path = FolderOf(in, step);
+  if (path.empty()) {
+    return;
+  }
   const std::int16_t created = CreatePath(services_.Files, path, form_.Paths);
   if (created >= 1) {
     journal_.UpdateUndoFile({.Kind = RecordKind::CreateFolder, .Folder = path, .Levels = created});
@@ -125,7 +129,7 @@ void RowSteps::Move(const RowInHand& in, const Text& step, StepResults& results)
   if (destination == in.Path) {
     return;  // it is there already
   }
-  if (!MoveFile(services_.Files, in.Path, in.Name, destination, in.Name)) {
+  if (destination.empty() || !MoveFile(services_.Files, in.Path, in.Name, destination, in.Name)) {
     results.MoveRefused = true;
     return;
   }
@@ -138,12 +142,16 @@ void RowSteps::Move(const RowInHand& in, const Text& step, StepResults& results)
   results.MovedTo = destination;
 }
 
+// The folder that a step stands for; empty if what it gives isn't rooted, which would mean some
+// folder below the one that the process happens to work in.
 Text RowSteps::FolderOf(const RowInHand& in, const Text& step) {
   if (!form_.DoAll) {
     form_.ReadBoxValues();  // so that the selected row's values count
   }
   ID3Tag copy = in.TagV2;
-  return Evaluate(in, step, in.TagV1, copy, false);
+  const Text folder = Evaluate(in, step, in.TagV1, copy, false);
+  // Pieces such as ".." are resolved first: undo counts levels by the text.
+  return IsRooted(folder, form_.Paths) ? WithoutDotPieces(folder, form_.Paths) : Text();
 }
 
 // The evaluated fields of a tag step. The copies of the row's records are what the engine may

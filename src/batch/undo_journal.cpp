@@ -1,7 +1,5 @@
 #include "batch/undo_journal.h"
 
-#include "platform/code_page.h"
-
 namespace vorlane {
 
 Text JournalPath(TextView folder) {
@@ -32,7 +30,7 @@ void UndoJournal::ContinueUndoFile(TextView folder) {
   bool exists = false;
   ReportingFailures(report_, u"", u"CreateUndoFile", u"",
                     [&] { exists = JournalExists(files_, folder); });
-  if (exists) {
+  if (exists && files_.StatusOf(JournalPath(folder)).Size >= JournalHeaderSize) {
     path_ = JournalPath(folder);
   } else {
     CreateUndoFile(folder);
@@ -48,23 +46,25 @@ void UndoJournal::UpdateUndoFile(const JournalRecord& record) {
 }
 
 std::string UndoJournal::BytesOf(const JournalRecord& record) const {
-  const std::string folder = JournalFolderField(record.Folder, paths_);
-  const std::string oldName = JournalNameField(record.OldName);
-  const std::string newName = JournalNameField(record.NewName);
+  const auto name = [](TextView text) { return JournalNameField(text); };
+  const auto folder = [this](TextView text) { return JournalFolderField(text, paths_); };
   switch (record.Kind) {
     case RecordKind::OpenTag:
-      return "<MP3TAG>|" + CodePageBytes(record.TagText) + "|" + folder + "|" + oldName;
+      return "<MP3TAG>|" + JournalTagFields(record.TagText) + "|" + folder(record.Folder) + "|" +
+             name(record.OldName);
     case RecordKind::CloseTag:
       return "\r\n";
     case RecordKind::Rename:
-      return "<VORL>|" + folder + "|" + oldName + "|" + newName + "\r\n";
+      return "<VORL>|" + folder(record.Folder) + "|" + name(record.OldName) + "|" +
+             name(record.NewName) + "\r\n";
     case RecordKind::CloseTagWith:
-      return "|" + newName + "\r\n";
+      return "|" + name(record.NewName) + "\r\n";
     case RecordKind::CreateFolder:
-      return "<CREATEFOLDER>|" + std::to_string(record.Levels) + "|" + folder + "\r\n";
+      return "<CREATEFOLDER>|" + std::to_string(record.Levels) + "|" + folder(record.Folder) +
+             "\r\n";
     case RecordKind::Move:
-      return "<MOVE>|" + folder + "|" + oldName + "|" +
-             JournalFolderField(record.Destination, paths_) + "|" + newName + "\r\n";
+      return "<MOVE>|" + folder(record.Folder) + "|" + name(record.OldName) + "|" +
+             folder(record.Destination) + "|" + name(record.NewName) + "\r\n";
   }
   return {};
 }

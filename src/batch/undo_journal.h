@@ -46,8 +46,11 @@ class UndoJournal {
   // also that a file which is no journal has its name; the run then goes on without a journal.
   void CreateUndoFile(TextView folder);
 
-  // Goes on with the journal that the folder has, or makes a new one.
+  // Goes on with the journal that the folder has, or makes a new one if it has none with a whole
+  // header.
   void ContinueUndoFile(TextView folder);
+
+  bool IsOpen() const { return !path_.empty(); }
 
   // Appends a record. A failure is reported and the record is lost.
   void UpdateUndoFile(const JournalRecord& record);

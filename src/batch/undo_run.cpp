@@ -30,18 +30,23 @@ TextView ParentOf(TextView path, PathStyle style) {
 }  // namespace
 
 void UndoRun::cmdUndo_Click() {
+  if (form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle ||
+      form_.Jobs.ListingState != JobState::Idle) {
+    return;
+  }
+  const JournalInUse inUse(form_);
   form_.EnableUndo(false);
+  folder_ = form_.CurrentPath;
   bool exists = false;
-  const bool looked = ReportingFailures(services_.Report, FormName, u"cmdUndo_Click", u"", [&] {
-    exists = JournalExists(services_.Files, form_.CurrentPath);
-  });
+  const bool looked = ReportingFailures(services_.Report, FormName, u"cmdUndo_Click", u"",
+                                        [&] { exists = JournalExists(services_.Files, folder_); });
   if (looked && !exists) {
     return;
   }
   form_.SetPointer(MousePointer::Hourglass);
   if (exists) {
     ReportingFailures(services_.Report, FormName, u"cmdUndo_Click", u"", [&] { ReplayJournal(); });
-    services_.Files.RemoveFile(JournalPath(form_.CurrentPath));
+    services_.Files.RemoveFile(JournalPath(folder_));
   }
   list_.PathChangedEvent();
   form_.SetStatusText(u"Undo complete");
@@ -49,7 +54,7 @@ void UndoRun::cmdUndo_Click() {
 }
 
 void UndoRun::ReplayJournal() {
-  const auto lines = JournalLines(services_.Files.ReadFileBytes(JournalPath(form_.CurrentPath)));
+  const auto lines = JournalLines(services_.Files.ReadFileBytes(JournalPath(folder_)));
   if (lines.size() > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
     throw RunError(ErrorNumber::Overflow);
   }
@@ -75,8 +80,8 @@ UndoRun::Reply UndoRun::ReplayRecord(const std::vector<std::string>& fields) {
       break;
     case 3:
       if (word == "<VORL>") {
-        return ReplayRename(TextOfJournalField(fields[1]), TextOfJournalField(fields[2]),
-                            TextOfJournalField(fields[3]));
+        return ReplyTo(RenameBack(TextOfJournalField(fields[1]), TextOfJournalField(fields[2]),
+                                  TextOfJournalField(fields[3])));
       }
       break;
     case 4:
@@ -117,24 +122,26 @@ UndoRun::Reply UndoRun::ReplayMove(const std::vector<std::string>& fields) {
   const Text name = TextOfJournalField(fields[2]);
   const Text destination = TextOfJournalField(fields[3]);
   const Text nameThere = TextOfJournalField(fields[4]);
-  return MoveFile(services_.Files, destination, nameThere, folder, name)
+  return MoveFile(services_.Files, destination, nameThere, folder, name, RenameFor::Undo)
              ? Reply{}
              : Reply{UndoOutcome::Skipped, u"the entry has gone or its old place is taken"};
 }
 
-UndoRun::Reply UndoRun::ReplayRename(TextView folder, TextView oldName, TextView newName) {
+RenameResult UndoRun::RenameBack(TextView folder, TextView oldName, TextView newName) {
   // A run can't have renamed an entry to its own journal, whatever a record says.
-  if (Text(folder).append(newName) != JournalPath(form_.CurrentPath)) {
-    const auto renamed =
-        RenameFile(services_.Files, folder, newName, oldName, RenameFor::Undo, nullptr, false);
-    if (renamed.Attempted && renamed.Outcome == RenameOutcome::Done) {
-      return {};
-    }
-    if (renamed.Attempted) {
-      return {UndoOutcome::Skipped, u"the system refused the rename"};
-    }
+  if (Text(folder).append(newName) == JournalPath(folder_)) {
+    return {};
   }
-  return {UndoOutcome::Skipped, u"the entry has gone or its old name is taken"};
+  return RenameFile(services_.Files, folder, newName, oldName, RenameFor::Undo, nullptr, false);
+}
+
+UndoRun::Reply UndoRun::ReplyTo(const RenameResult& renamed) {
+  if (!renamed.Attempted) {
+    return {UndoOutcome::Skipped, u"the entry has gone or its old name is taken"};
+  }
+  return renamed.Outcome == RenameOutcome::Done
+             ? Reply{}
+             : Reply{UndoOutcome::Skipped, u"the system refused the rename"};
 }
 
 UndoRun::Reply UndoRun::ReplayTag(const std::vector<std::string>& fields) {
@@ -142,24 +149,25 @@ UndoRun::Reply UndoRun::ReplayTag(const std::vector<std::string>& fields) {
   for (std::size_t field = 2; field <= TagTextFields; ++field) {
     tagText.append("|").append(fields[field]);
   }
-  const auto [tag, version] = StringToTag(TextFromCodePage(tagText));
+  const auto [tag, version] = StringToTag(TextOfJournalTagFields(tagText));
   const Text folder = TextOfJournalField(fields[TagFolder]);
   const Text oldName = TextOfJournalField(fields[TagOldName]);
   if (fields.size() > TagNewName) {
     // The tag belongs to the old name: where that can't be had back, another file may have it.
-    const Reply renamed = ReplayRename(folder, oldName, TextOfJournalField(fields[TagNewName]));
-    if (renamed.Outcome != UndoOutcome::Done) {
-      return renamed;
+    const auto renamed = RenameBack(folder, oldName, TextOfJournalField(fields[TagNewName]));
+    if (!renamed.Attempted) {
+      return ReplyTo(renamed);
     }
   }
+  // A run tags MP3 files only. The last line of a journal that was cut off may name another file.
   const Text path = folder + oldName;
-  if (!PlainFileExists(services_.Files, path)) {
+  if (!HasMp3Extension(oldName) || !PlainFileExists(services_.Files, path)) {
     return {UndoOutcome::Skipped, u"the file has gone"};
   }
   if (version == 1) {
     WriteID3v1(services_.Files, services_.Report, path, tag);
   } else {
-    WriteID3v2({services_.Files, services_.Report, services_.Boxes, form_}, path, tag, false);
+    WriteID3v2({services_.Files, services_.Report, services_.Prompts, form_}, path, tag, false);
   }
   return {};
 }

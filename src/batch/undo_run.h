@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "batch/file_routines.h"
 #include "batch/undo_journal.h"
 #include "filelist/file_list.h"
 #include "form/form.h"
@@ -32,9 +33,10 @@ class UndoRun {
       : form_(form), services_(services), list_(list), listener_(listener) {}
 
   // Reverses what the journal of the form's CurrentPath records, deletes the journal and lists the
-  // folder anew. Without a journal nothing happens. A record whose shape isn't known is passed
-  // over, and so is a rename whose way back is barred. A failure is reported and ends the replay;
-  // the journal is deleted all the same. A journal of over 32,767 lines is such a failure.
+  // folder anew. Without a journal nothing happens, nor while a listing, a run or another undo is
+  // at work. A record whose shape isn't known is passed over, and so is a rename whose way back is
+  // barred. A failure is reported and ends the replay; the journal is deleted all the same. A
+  // journal of over 32,767 lines is such a failure.
   void cmdUndo_Click();
 
  private:
@@ -48,13 +50,15 @@ class UndoRun {
   Reply ReplayRecord(const std::vector<std::string>& fields);
   Reply ReplayCreateFolder(const std::vector<std::string>& fields);
   Reply ReplayMove(const std::vector<std::string>& fields);
-  Reply ReplayRename(TextView folder, TextView oldName, TextView newName);
+  RenameResult RenameBack(TextView folder, TextView oldName, TextView newName);
+  static Reply ReplyTo(const RenameResult& renamed);
   Reply ReplayTag(const std::vector<std::string>& fields);
 
   Form& form_;
   Services& services_;
   FileList& list_;
   UndoListener* listener_;
+  Text folder_;  // whose journal is replayed; the form's own may change meanwhile
 };
 
 }  // namespace vorlane

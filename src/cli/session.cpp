@@ -14,7 +14,7 @@ Session::Session()
       Progress(Time),
       Outside{Files, Time, Loop, Report, Boxes},
       State(Progress, Loop),
-      Facts(Outside.Files, Outside.Time, Outside.Report, Outside.Boxes),
+      Facts(Outside.Files, Outside.Time, Outside.Report, Outside.Prompts),
       Previews(State, Outside, Facts),
       List(State, Outside, Previews) {
   Progress.Attach(State);

@@ -1,5 +1,6 @@
 #include "engine/evaluate_tags.h"
 
+#include <cstdint>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -21,6 +22,11 @@ struct Evaluation {
   // Passes over the list of tags. This also bounds how deep evaluations nest. Codes that end stay
   // far below it: within the reach of positions there is room for less than 3,000 tags.
   int PassesLeft = 10'000;
+
+  // Characters that passes may still begin with. A code that grows for ever would otherwise be
+  // scanned for a minute before its passes are used up. The deepest nesting that positions allow
+  // takes some 45 million.
+  std::int64_t CharactersLeft = 64'000'000;
 };
 
 // What a pass over the tags goes by. Two passes that begin alike go on alike for ever.
@@ -83,7 +89,8 @@ bool Rewriting::Run() {
 }
 
 bool Rewriting::BeginPass() {
-  if (occurring_ == 0 || evaluation_.PassesLeft == 0 || state_.Code.size() > LongestText) {
+  if (occurring_ == 0 || evaluation_.PassesLeft == 0 || evaluation_.CharactersLeft <= 0 ||
+      state_.Code.size() > LongestText) {
     return false;
   }
   if (hasPassed_) {
@@ -94,6 +101,7 @@ bool Rewriting::BeginPass() {
   }
   hasPassed_ = true;
   --evaluation_.PassesLeft;
+  evaluation_.CharactersLeft -= static_cast<std::int64_t>(state_.Code.size());
   next_ = 0;
   return true;
 }
@@ -129,7 +137,9 @@ void Rewriting::FinishTag(Text inner) {
   state_.Inner = std::move(inner);
   EvaluateFunction(tag.Name, state_.Inner, evaluation_.Entry, evaluation_.Context, state_.Values);
   Attempt([&] {
-    const Text expression = Text(tag.Opening).append(state_.SavedInner).append(tag.Closing);
+    Text expression;
+    expression.reserve(tag.Opening.size() + state_.SavedInner.size() + tag.Closing.size());
+    expression.append(tag.Opening).append(state_.SavedInner).append(tag.Closing);
     if (ReplaceEvery(state_.Code, expression, state_.Values.Result)) {
       CodeChanged();
     }

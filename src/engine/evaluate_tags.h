@@ -18,7 +18,8 @@ namespace vorlane {
 //
 // Yields once for each closing tag examined. Always ends: a code that rewrites itself for ever is
 // returned as it stands, once a whole pass over the tags changes nothing, or when the evaluation
-// has taken 10,000 passes or its code is longer than LongestText.
+// has taken 10,000 passes or 64 million characters of code in all, or its code is longer than
+// LongestText. A replacement that would make it so is left out.
 Text EvaluateTags(TextView code, TextView path, TextView fileName, TextView defaultText,
                   EvaluationContext& context);
 

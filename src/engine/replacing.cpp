@@ -10,6 +10,7 @@ bool ReplaceUpTo(Text& text, TextView from, TextView to, std::int32_t most) {
     return false;
   }
   Text result;
+  result.reserve(text.size() + to.size());
   const auto append = [&](TextView part) {
     if (to.size() > from.size() && result.size() + part.size() > LongestText) {
       throw RunError(ErrorNumber::OutOfMemory);

@@ -1,14 +1,38 @@
 #include "filelist/file_list.h"
 
 #include "filelist/wildcard.h"
-#include "metadata/tag_reading.h"
+#include "preview/row_tags.h"
 
 namespace vorlane {
 
 namespace {
 
-// From this index on, adding rows to a visible list would cost more in repainting than in rows.
+// A list with a higher index than this is hidden while rows are added: repainting would cost more
+// than the rows.
 constexpr std::int32_t HighestIndexShown = 500;
+
+class HiddenList {
+ public:
+  explicit HiddenList(FormView& view) : view_(view) { view_.ListHidden(true); }
+  ~HiddenList() { view_.ListHidden(false); }
+  HiddenList(const HiddenList&) = delete;
+  HiddenList& operator=(const HiddenList&) = delete;
+
+ private:
+  FormView& view_;
+};
+
+// Counts itself in while it lives.
+class CountedIn {
+ public:
+  explicit CountedIn(int& count) : count_(count) { ++count_; }
+  ~CountedIn() { --count_; }
+  CountedIn(const CountedIn&) = delete;
+  CountedIn& operator=(const CountedIn&) = delete;
+
+ private:
+  int& count_;
+};
 
 std::int32_t SecondsSince(std::uint64_t start, Clock& clock) {
   return static_cast<std::int32_t>((clock.Milliseconds() - start) / 1000);
@@ -18,41 +42,48 @@ std::int32_t SecondsSince(std::uint64_t start, Clock& clock) {
 
 void FileList::PathChangedEvent() {
   const std::uint64_t listing = ++listing_;
-  const bool listed = ReportingFailures(services_.Report, FormName, u"PathChangedEvent", u"",
-                                        [&] { RebuildList(); });
-  if (!listed) {
-    form_.SetPointer(MousePointer::Default);
-  }
+  std::optional<QuietBoxes> quiet;
+  ReportingFailures(services_.Report, FormName, u"PathChangedEvent", u"", [&] {
+    try {
+      RebuildList(listing, quiet);
+    } catch (const RunError&) {
+      form_.SetPointer(MousePointer::Default);  // before a report that may wait for the user
+      throw;
+    }
+  });
   if (listing == listing_) {
     FinishListing();
   }
 }
 
-void FileList::RebuildList() {
-  const std::uint64_t listing = listing_;
+void FileList::RebuildList(std::uint64_t listing, std::optional<QuietBoxes>& quiet) {
   form_.LockControls();
   form_.Jobs.ListingState = JobState::Running;
   form_.SetPointer(MousePointer::ArrowHourglass);
+  const ListingInputs inputs{form_.CurrentPath, form_.WildCard, form_.IncludeSubFolders,
+                             form_.ListFolders};
   form_.View.ControlEnabled(FormControl::FileList, false);
   WaitForStop(form_.Jobs.PreviewState, 3, services_.Time, services_.Loop);
   form_.View.ControlEnabled(FormControl::FileList, true);
-
-  form_.SetSorted(false);
-  ListFolderContents();
+  // From each yield on, a newer listing may have run inside this one; its list then stands.
   if (listing != listing_) {
-    return;  // a newer listing ran inside this one; its rows and selection stand
+    return;
+  }
+  form_.SetSorted(false);
+  ListFolderContents(listing, inputs);
+  if (listing != listing_) {
+    return;
   }
   if (form_.Rows.Selected() != 0) {
     form_.DeselectRow();
   }
   form_.SetSorted(true);
-  form_.SuppressBoxEvents = true;
+  quiet.emplace(form_);
   EmptyFormulaBoxes();
   if (form_.Jobs.ListingState == JobState::Running && form_.Rows.Count() > 0) {
     form_.SelectRow(1);
-    ++selectingFirstRow_;
+    const CountedIn selecting(selectingFirstRow_);
     lstFileListItemClick();
-    --selectingFirstRow_;
   }
 }
 
@@ -60,7 +91,6 @@ void FileList::FinishListing() {
   form_.SetListCounter(form_.Rows.Count());
   form_.LastFileCount = form_.Rows.Count();
   form_.SetPointer(MousePointer::Default);
-  form_.SuppressBoxEvents = false;
   form_.Jobs.ListingState = JobState::Idle;
   form_.UnlockControls();
 }
@@ -80,27 +110,31 @@ bool FileList::IsStopped(std::uint64_t listing) const {
   return form_.Jobs.ListingState == JobState::StopRequested || listing != listing_;
 }
 
-void FileList::ListFolderContents() {
-  const std::uint64_t listing = listing_;
+void FileList::ListFolderContents(std::uint64_t listing, const ListingInputs& inputs) {
   form_.Rows.Clear();
   form_.View.RowsCleared();
-  const Text folder = form_.CurrentPath;
-  if (!PlainFileExists(services_.Files, folder) && !FolderExists(services_.Files, folder)) {
+  if (!PlainFileExists(services_.Files, inputs.Folder) &&
+      !FolderExists(services_.Files, inputs.Folder)) {
     return;
   }
   form_.CurrentNames.Assign({Text()});
-  form_.SetStatus(u"Checking attributes and collecting files/folders...", 33);
-  form_.SetListCounter(0);
-  const auto start = services_.Time.Milliseconds();
-
-  FolderWalk walk(form_, services_, form_.IncludeSubFolders, form_.ListFolders);
-  if (!IsStopped(listing) && FolderExists(services_.Files, folder)) {
-    walk.SearchFolders(folder, [&] { return IsStopped(listing); });
-  }
+  Attempt([&] { form_.SetStatus(u"Checking attributes and collecting files/folders...", 33); });
   if (listing != listing_) {
     return;
   }
-  AddRows(walk.Found());
+  form_.SetListCounter(0);
+  const auto start = services_.Time.Milliseconds();
+
+  FolderWalk walk(form_, services_, inputs.IncludeSubFolders, inputs.ListFolders);
+  Attempt([&] {
+    if (!IsStopped(listing) && FolderExists(services_.Files, inputs.Folder)) {
+      walk.SearchFolders(inputs.Folder, [&] { return IsStopped(listing); });
+    }
+  });
+  if (listing != listing_) {
+    return;
+  }
+  Attempt([&] { AddRows(listing, walk.Found(), inputs.WildCard); });
   if (listing != listing_) {
     return;
   }
@@ -108,40 +142,33 @@ void FileList::ListFolderContents() {
                   100);
 }
 
-void FileList::AddRows(std::vector<FoundEntry>& found) {
-  const std::uint64_t listing = listing_;
+void FileList::AddRows(std::uint64_t listing, std::vector<FoundEntry>& found,
+                       const Text& wildcard) {
   const auto count = static_cast<std::int32_t>(found.size());
-  const bool hide = count - 1 > HighestIndexShown;
-  if (hide) {
-    form_.View.ListHidden(true);
-  }
   std::vector<Text> names(found.empty() ? 1 : found.size());
-  for (std::int32_t i = 0; i < count; ++i) {
-    const auto place = static_cast<std::size_t>(i);
-    names[place] = std::move(found[place].Name);
+  for (std::size_t place = 0; place < found.size(); ++place) {
+    names[place] = found[place].Name;
+  }
+  form_.ProposedNames.Assign(std::vector<Text>(names.size()));
+  form_.CurrentNames.Assign(std::move(names));
+  std::optional<HiddenList> hidden;
+  if (count - 1 > HighestIndexShown) {
+    hidden.emplace(form_.View);
   }
   for (std::int32_t i = 0; i < count && !IsStopped(listing); ++i) {
-    const auto place = static_cast<std::size_t>(i);
-    if (MatchesWildcard(names[place], form_.WildCard)) {
-      form_.Rows.Add({.Name = names[place],
-                      .ReadOnly = found[place].ReadOnly ? YesNo::Yes : YesNo::No,
-                      .Folder = found[place].Folder});
+    FoundEntry& entry = found[static_cast<std::size_t>(i)];
+    if (MatchesWildcard(entry.Name, wildcard)) {
+      form_.Rows.Add({.Name = std::move(entry.Name),
+                      .ReadOnly = entry.ReadOnly ? YesNo::Yes : YesNo::No,
+                      .Folder = entry.Folder});
       form_.View.RowAdded(form_.Rows.Count());
       form_.SetListCounter(i + 1);
     } else {
-      names[place].clear();
+      form_.CurrentNames.Set(i, u"");
     }
     form_.SetStatus(u"Adding files, please wait...",
                     static_cast<int>(std::int64_t{i + 1} * 100 / count));
   }
-  if (listing != listing_) {
-    return;
-  }
-  if (hide) {
-    form_.View.ListHidden(false);
-  }
-  form_.ProposedNames.Assign(std::vector<Text>(names.size()));
-  form_.CurrentNames.Assign(std::move(names));
 }
 
 void FileList::lstFileListItemClick() {
@@ -161,26 +188,15 @@ void FileList::lstFileListItemClick() {
           }
           return;
         }
-        ID3Tag tagV1;
-        ID3Tag tagV2;
+        RowTags tags;
         if (HasMp3Extension(form_.Rows.At(row).Name)) {
-          ReadSelectedTags(row, fullPath, tagV1, tagV2);
+          tags = ReadRowTags(form_, services_, row);
         }
         form_.BoxEdited = false;
-        preview_.UpdateBoxValues(row, tagV1, tagV2, true, true);
+        preview_.UpdateBoxValues(row, tags.V1, tags.V2, true, true);
       });
   if (!done) {
     form_.BoxEdited = false;
-  }
-}
-
-void FileList::ReadSelectedTags(std::int32_t row, const Text& fullPath, ID3Tag& tagV1,
-                                ID3Tag& tagV2) {
-  tagV1 = ReadID3v1(services_.Files, services_.Report, fullPath);
-  tagV2 = ReadID3v2(services_.Files, services_.Report, fullPath);
-  form_.SetTagCells(row, tagV1, tagV2);
-  if (!tagV2.Present) {
-    tagV2 = tagV1;
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "filelist/folder_walk.h"
@@ -31,13 +32,20 @@ class FileList {
   std::int32_t CountFiles(TextView pattern);
 
  private:
-  void RebuildList();
-  void ListFolderContents();
-  void AddRows(std::vector<FoundEntry>& found);
+  // What a listing goes by: taken from the form once, so that a change in the middle doesn't show.
+  struct ListingInputs {
+    Text Folder;
+    Text WildCard;
+    bool IncludeSubFolders;
+    bool ListFolders;
+  };
+
+  void RebuildList(std::uint64_t listing, std::optional<QuietBoxes>& quiet);
+  void ListFolderContents(std::uint64_t listing, const ListingInputs& inputs);
+  void AddRows(std::uint64_t listing, std::vector<FoundEntry>& found, const Text& wildcard);
   void EmptyFormulaBoxes();
   void FinishListing();
   bool IsStopped(std::uint64_t listing) const;
-  void ReadSelectedTags(std::int32_t row, const Text& fullPath, ID3Tag& tagV1, ID3Tag& tagV2);
 
   Form& form_;
   Services& services_;

@@ -30,11 +30,6 @@ void SortAsTheListDoes(std::vector<FolderEntry>& entries) {
   entries = std::move(sorted);
 }
 
-// A system that delivers names in records of a fixed size fills them up with NULs.
-Text TrimAtNul(TextView name) {
-  return Text(name.substr(0, name.find(u'\0')));
-}
-
 }  // namespace
 
 void FolderWalk::SearchOneFolder() {
@@ -42,9 +37,6 @@ void FolderWalk::SearchOneFolder() {
   std::vector<FolderEntry> entries;
   if (!Attempt([&] { entries = services_.Files.ListFolder(folder); })) {
     return;
-  }
-  if (const auto identity = services_.Files.IdentityOf(folder)) {
-    IsFirstVisit(*identity);
   }
   SortAsTheListDoes(entries);
   for (const FolderEntry& entry : entries) {
@@ -75,7 +67,14 @@ void FolderWalk::TakeFile(const FolderEntry& entry, const Text& folder) {
 
 void FolderWalk::Record(const FolderEntry& entry, const Text& folder) {
   ++totals_.Entries;
-  found_.push_back({TrimAtNul(entry.Name), form_.Rows.IdOf(folder), entry.Status.ReadOnly});
+  found_.push_back({entry.Name, form_.Rows.IdOf(folder), entry.Status.ReadOnly});
+}
+
+void FolderWalk::Begin(TextView folder) {
+  queue_.push_back(EnsureTrailingSeparator(folder, form_.Paths));
+  if (const auto identity = services_.Files.IdentityOf(queue_.front())) {
+    IsFirstVisit(*identity);
+  }
 }
 
 bool FolderWalk::IsFirstVisit(const FileIdentity& identity) {

@@ -40,7 +40,7 @@ class FolderWalk {
   // each folder. Cost: linear in the entries, apart from the sort within each folder.
   template <typename IsStopped>
   WalkTotals SearchFolders(TextView folder, IsStopped&& isStopped) {
-    queue_.push_back(EnsureTrailingSeparator(folder, form_.Paths));
+    Begin(folder);
     SearchOneFolder();
     queue_.pop_front();
     while (!queue_.empty() && !isStopped()) {
@@ -55,6 +55,7 @@ class FolderWalk {
   std::vector<FoundEntry>& Found() { return found_; }
 
  private:
+  void Begin(TextView folder);
   void SearchOneFolder();
   void TakeFolder(const FolderEntry& entry, const Text& folder);
   void TakeFile(const FolderEntry& entry, const Text& folder);

@@ -67,6 +67,7 @@ void FileRows::Clear() {
   folders_.clear();
   folderIds_.clear();
   Deselect();
+  selectionMark_ = -1;
   ++generation_;
 }
 
@@ -79,11 +80,6 @@ void FileRows::Select(std::int32_t row) {
   At(row);
   selected_ = row;
   selectionMark_ = row - 1;
-}
-
-void FileRows::Deselect() {
-  selected_ = 0;
-  selectionMark_ = -1;
 }
 
 void FileRows::SetSort(Column key, SortOrder order) {

@@ -63,12 +63,12 @@ class FileRows {
   void Clear();
   void Add(FileRow row);
 
-  // The selected row, 0 for none, and the row of the last selection made by whatever means, as an
-  // index from 0, -1 for none. Selecting a row deselects the one before.
+  // The selected row, 0 for none; selecting a row deselects the one before. The selection mark is
+  // the row of the last selection as an index from 0; it outlives the selection. -1 in a new list.
   std::int32_t Selected() const { return selected_; }
   std::int32_t SelectionMark() const { return selectionMark_; }
   void Select(std::int32_t row);
-  void Deselect();
+  void Deselect() { selected_ = 0; }
 
   // Sorting goes by one column's text without regard to case, code unit by code unit; rows that
   // compare equal stay in the order in which they were found. While it is off, rows stay where

@@ -6,7 +6,7 @@ namespace vorlane {
 
 const Text& Form::SelectedCode() const {
   const auto index = static_cast<std::size_t>(SelectedOperation);
-  if (SelectedOperation < 0 || index >= OperationCodes.size()) {
+  if (SelectedOperation < 1 || index >= OperationCodes.size()) {
     throw RunError(ErrorNumber::SubscriptOutOfRange);
   }
   return OperationCodes[index];
@@ -101,12 +101,6 @@ void Form::SetProposedCell(std::int32_t row, TextView text) {
 void Form::SetName(std::int32_t row, TextView name) {
   Rows.At(row).Name = name;
   View.CellChanged(row, Column::CurrentName);
-}
-
-void Form::SetTagCells(std::int32_t row, const ID3Tag& tagV1, const ID3Tag& tagV2) {
-  SetTagPresence(row, Column::ID3v1, tagV1.Present);
-  SetTagPresence(row, Column::ID3v2, tagV2.Present);
-  SetArtistAndTitle(row, tagV2.Present ? tagV2 : tagV1);
 }
 
 void Form::SetArtistAndTitle(std::int32_t row, const ID3Tag& tag) {

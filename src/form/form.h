@@ -31,7 +31,7 @@ struct Services {
   Clock& Time;
   MessageLoop& Loop;
   FailureReport& Report;
-  Prompter& Boxes;
+  Prompter& Prompts;
 };
 
 enum class MousePointer : std::uint8_t { Default, ArrowHourglass, Hourglass };
@@ -53,8 +53,8 @@ class Form final : public StatusLine {
   // Option boxes 1 to 6 at index 0 to 5, and the values that they stand for on the row in hand.
   std::array<OptionBox, OptionBoxCount> Boxes;
   vorlane::BoxValues BoxValues;
-  bool SuppressBoxEvents = false;  // the program itself is changing boxes
-  bool BoxEdited = false;          // the user has typed in a box since the last click on a row
+  bool SuppressBoxEvents() const { return quietBoxes_ > 0; }  // see QuietBoxes
+  bool BoxEdited = false;  // the user has typed in a box since the last click on a row
 
   // Modes: which of each pair of buttons is visible.
   bool DoAll = false;              // otherwise one selected row
@@ -70,6 +70,7 @@ class Form final : public StatusLine {
   std::int32_t LastFileCount = 0;
 
   JobStates Jobs;
+  bool JournalInUse = false;  // a run or an undo is at work, its waits before and behind included
 
   // Status lines.
   Text Status;          // lblStatus
@@ -105,8 +106,6 @@ class Form final : public StatusLine {
   // Column 1 alone, for the markers.
   void SetProposedCell(std::int32_t row, TextView text);
   void SetName(std::int32_t row, TextView name);
-  // Columns 2 to 5 from both tags as read; without an ID3v2 tag, artist and title are ID3v1's.
-  void SetTagCells(std::int32_t row, const ID3Tag& tagV1, const ID3Tag& tagV2);
   void SetArtistAndTitle(std::int32_t row, const ID3Tag& tag);
   void SetTagPresence(std::int32_t row, Column column, bool present);
   void SelectRow(std::int32_t row);
@@ -114,7 +113,35 @@ class Form final : public StatusLine {
   void SetSorted(bool sorted);
 
  private:
+  friend class QuietBoxes;
+
   MessageLoop& loop_;
+  int quietBoxes_ = 0;
+};
+
+// Marks the journal as in use while it lives: no run and no undo may begin inside another one.
+class JournalInUse {
+ public:
+  explicit JournalInUse(Form& form) : form_(form) { form_.JournalInUse = true; }
+  ~JournalInUse() { form_.JournalInUse = false; }
+  JournalInUse(const JournalInUse&) = delete;
+  JournalInUse& operator=(const JournalInUse&) = delete;
+
+ private:
+  Form& form_;
+};
+
+// While one of these lives the option boxes' own events stay quiet: the program itself is changing
+// boxes. They may lie inside each other, as a preview inside a listing does.
+class QuietBoxes {
+ public:
+  explicit QuietBoxes(Form& form) : form_(form) { ++form_.quietBoxes_; }
+  ~QuietBoxes() { --form_.quietBoxes_; }
+  QuietBoxes(const QuietBoxes&) = delete;
+  QuietBoxes& operator=(const QuietBoxes&) = delete;
+
+ private:
+  Form& form_;
 };
 
 }  // namespace vorlane

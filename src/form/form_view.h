@@ -9,12 +9,10 @@
 
 namespace vorlane {
 
-// The timers of the main window, by what they are for.
+// The one-shot timers that show a held text.
 enum class FormTimer : std::uint8_t {
-  AutoPreview,    // one shot behind a change in an option box
-  ProgramStatus,  // one shot, shows the held program status
-  FileStatus,     // one shot, shows the held row count
-  UpdateList,     // one shot behind a change of the wildcard
+  ProgramStatus,  // the program status
+  FileStatus,     // the row count
 };
 
 enum class FormControl : std::uint8_t {
@@ -39,7 +37,7 @@ class FormView {
   virtual void ControlEnabled(FormControl, bool /*enabled*/) {}
   virtual void RunButtonsChanged() {}  // Go or Stop is visible
   virtual void BoxTextChanged(int /*box*/) {}
-  virtual void TimerStarted(FormTimer) {}
+  virtual void TimerStarted(FormTimer) {}  // one that runs already runs on
   virtual void TimerStopped(FormTimer) {}
 
   virtual void RowsCleared() {}

@@ -1,7 +1,5 @@
 #include "form/indexed_names.h"
 
-#include <algorithm>
-
 #include "platform/failure.h"
 #include "platform/letter_case.h"
 
@@ -70,14 +68,9 @@ void IndexedNames::Remove(std::int32_t slot) {
   }
 }
 
-bool IndexedNames::AnySlot(std::uint64_t key, TextView name, FolderId folder,
-                           const std::function<bool(std::int32_t)>& visit) const {
-  const auto [first, last] = slotsByKey_.equal_range(key);
-  return std::any_of(first, last, [&](const auto& entry) {
-    const auto place = static_cast<std::size_t>(entry.second);
-    return folders_[place] == folder && EqualIgnoringCase(names_[place], name) &&
-           visit(entry.second);
-  });
+bool IndexedNames::Holds(std::int32_t slot, TextView name, FolderId folder) const {
+  const auto place = static_cast<std::size_t>(slot);
+  return folders_[place] == folder && EqualIgnoringCase(names_[place], name);
 }
 
 }  // namespace vorlane

@@ -2,8 +2,8 @@
 // among rows of one folder. It answers what the rules describe as a search through all slots.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
-#include <functional>
 #include <unordered_map>
 #include <vector>
 
@@ -31,13 +31,19 @@ class IndexedNames {
 
   // Calls `visit` with each slot that holds the name and whose row lies in that folder, in no
   // particular order, until it returns true. True if it did. Needs a Refresh since rows last moved.
-  bool AnySlot(std::uint64_t key, TextView name, FolderId folder,
-               const std::function<bool(std::int32_t)>& visit) const;
+  template <typename Visit>
+  bool AnySlot(std::uint64_t key, TextView name, FolderId folder, Visit&& visit) const {
+    const auto [first, last] = slotsByKey_.equal_range(key);
+    return std::any_of(first, last, [&](const auto& entry) {
+      return Holds(entry.second, name, folder) && visit(entry.second);
+    });
+  }
 
   // The key to pass to AnySlot; one computation serves several arrays.
   static std::uint64_t KeyOf(TextView name, FolderId folder);
 
  private:
+  bool Holds(std::int32_t slot, TextView name, FolderId folder) const;
   void Insert(std::int32_t slot);
   void Remove(std::int32_t slot);
 

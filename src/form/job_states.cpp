@@ -17,7 +17,7 @@ bool WaitForStop(JobState& state, std::int16_t seconds, Clock& clock, MessageLoo
   state = JobState::StopRequested;
   const auto start = clock.Milliseconds();
   while (state != JobState::Idle) {
-    if ((clock.Milliseconds() - start) / 1000 >= static_cast<std::uint64_t>(seconds)) {
+    if (static_cast<std::int64_t>((clock.Milliseconds() - start) / 1000) >= seconds) {
       return false;
     }
     loop.YieldBlocking(10);

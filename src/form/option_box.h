@@ -1,11 +1,12 @@
 // One of the six option boxes: a caption, a text box and an optional check box.
 #pragma once
 
+#include "engine/box_values.h"
 #include "platform/text.h"
 
 namespace vorlane {
 
-inline constexpr int OptionBoxCount = 6;
+inline constexpr int OptionBoxCount = static_cast<int>(BoxCount);
 
 struct OptionBox {
   bool Visible = false;

@@ -25,8 +25,9 @@ std::optional<std::size_t> FrameStart(std::string_view bytes) {
   const std::size_t end = std::min(bytes.size(), LastFrameStart);
   for (std::size_t place = 0; place < end; ++place) {
     const std::uint8_t second = ByteAt(bytes, place + 1);
-    if (ByteAt(bytes, place) == 0xFF && (second == 0xFA || second == 0xFB))
+    if (ByteAt(bytes, place) == 0xFF && (second == 0xFA || second == 0xFB)) {
       return place;
+    }
   }
   return std::nullopt;
 }
@@ -35,8 +36,9 @@ std::optional<std::size_t> FrameStart(std::string_view bytes) {
 
 std::int16_t BitRateOf(std::string_view fileStart) {
   const auto place = FrameStart(fileStart);
-  if (!place)
+  if (!place) {
     return 0;
+  }
   const std::array<std::uint8_t, 4> header = {
       0, ByteAt(fileStart, *place), ByteAt(fileStart, *place + 1), ByteAt(fileStart, *place + 2)};
   // The zero in front gives no digits: 16 of the first two bytes are followed by the index.

@@ -4,8 +4,9 @@ namespace vorlane {
 
 std::string_view TrimSpaces(std::string_view bytes) {
   const auto first = bytes.find_first_not_of(' ');
-  if (first == std::string_view::npos)
+  if (first == std::string_view::npos) {
     return {};
+  }
   return bytes.substr(first, bytes.find_last_not_of(' ') - first + 1);
 }
 

@@ -48,7 +48,10 @@ Text ListInfo(ExifReadStatus status, const std::vector<ExifTag>& tags) {
   }
   Text lines;
   for (const ExifTag& entry : tags) {
-    lines += entry.Name + u": " + entry.Text + u"\r\n";
+    const Text line = entry.Name + u": " + entry.Text + u"\r\n";
+    for (std::int32_t time = 0; time < entry.Times; ++time) {
+      lines += line;
+    }
   }
   return lines;
 }

@@ -40,7 +40,9 @@ class clsEXIF {
 
   ExifReadStatus ReadStatus() const { return readStatus_; }
   bool IntelByteAlignment() const { return contents_.IntelByteAlignment; }
-  const std::vector<ExifTag>& Tags() const { return contents_.Tags; }
+
+  // Each entry for itself; there may be tens of thousands.
+  std::vector<ExifTag> Tags() const { return SingleEntries(contents_.Tags); }
 
   // As the functions of exif_tag_names.h.
   static std::int32_t GetTagID(TextView name);

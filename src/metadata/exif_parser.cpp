@@ -78,19 +78,20 @@ std::int64_t ReadIFD(const ExifBlock& block, std::int64_t offset, std::int32_t l
   if (!count) {
     return 0;
   }
-  const std::size_t end = tags.size() + static_cast<std::size_t>(*count);
-  tags.reserve(end);
+  auto left = static_cast<std::int32_t>(*count);
   place += CountLength;
   std::int64_t linked = 0;
-  while (tags.size() < end && place < static_cast<std::int64_t>(block.Head.size())) {
-    const ExifTag& entry = tags.emplace_back(ReadEntry(block, place));
-    place += EntryLength;
+  while (left > 0) {
+    ExifTag& entry = tags.emplace_back(ReadEntry(block, place));
     if (entry.Tag == linkTag) {
       linked = OffsetIn(entry.Text);
     }
+    // Behind the head one entry is like the other, and there may be tens of thousands.
+    const bool isBehindHead = place >= static_cast<std::int64_t>(block.Head.size());
+    entry.Times = isBehindHead ? left : 1;
+    left -= entry.Times;
+    place += EntryLength;
   }
-  // Behind the head one entry is like the other.
-  tags.resize(end, ReadEntry(block, place));
   return linked;
 }
 
@@ -122,6 +123,16 @@ std::optional<ExifContents> ParseExif(std::string_view fileStart) {
       ReadIFD(block, static_cast<std::int64_t>(*first), exif_tag::ExifOffset, contents.Tags);
   ReadIFD(block, second, exif_tag::ExifInteroperabilityOffset, contents.Tags);
   return contents;
+}
+
+std::vector<ExifTag> SingleEntries(const std::vector<ExifTag>& tags) {
+  std::vector<ExifTag> singles;
+  for (const ExifTag& tag : tags) {
+    ExifTag single = tag;
+    single.Times = 1;
+    singles.insert(singles.end(), static_cast<std::size_t>(tag.Times), single);
+  }
+  return singles;
 }
 
 }  // namespace vorlane

@@ -16,7 +16,8 @@ inline constexpr std::size_t ExifHeadLength = 4096;
 
 struct ExifContents {
   bool IntelByteAlignment = false;  // numbers have their low byte first
-  std::vector<ExifTag> Tags;        // in the order in which they stand
+  std::vector<ExifTag> Tags;        // in the order in which they stand, equal ones behind the
+                                    // head's end as one with its number of Times
 };
 
 // Lists the entries of the first directory, then those of the one that its last ExifOffset leads
@@ -30,5 +31,8 @@ struct ExifContents {
 // Nothing if there is no "Exif" with a NUL behind it. Throws RunError 1 for a file without a byte,
 // and if the block begins so late that the place of its first directory isn't in the head.
 std::optional<ExifContents> ParseExif(std::string_view fileStart);
+
+// The same entries, each one for itself.
+std::vector<ExifTag> SingleEntries(const std::vector<ExifTag>& tags);
 
 }  // namespace vorlane

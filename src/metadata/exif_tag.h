@@ -15,6 +15,7 @@ struct ExifTag {
   std::int32_t Count = 0;   // number of elements
   double Value = 0;         // the four value bytes as an unsigned number, or a rational's quotient
   vorlane::Text Text;       // the value as shown
+  std::int32_t Times = 1;   // stands for so many equal entries in a row
 
   bool operator==(const ExifTag&) const = default;
 };

@@ -25,8 +25,9 @@ std::int32_t BitsToLong(std::string_view bits) {
   std::int64_t number = 0;
   for (const char bit : bits) {
     number = number * 2 + (bit == '1' ? 1 : 0);
-    if (number > std::numeric_limits<std::int32_t>::max())
+    if (number > std::numeric_limits<std::int32_t>::max()) {
       throw RunError(ErrorNumber::Overflow);
+    }
   }
   return static_cast<std::int32_t>(number);
 }
@@ -36,8 +37,9 @@ std::string LongToBytes(std::int32_t number, int bitsPerByte) {
   for (int i = 3; i >= 0; --i) {
     const std::int32_t power = 1 << (bitsPerByte * i);
     const std::int32_t digit = number / power;
-    if (digit < 0 || digit > 255)
+    if (digit < 0 || digit > 255) {
       throw RunError(ErrorNumber::InvalidArgument);
+    }
     number -= digit * power;
     bytes += static_cast<char>(digit);
   }

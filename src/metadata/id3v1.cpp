@@ -21,8 +21,9 @@ constexpr std::size_t GenrePlace = 127;
 Text CleanField(std::string_view tag, std::size_t place, std::size_t length) {
   std::string_view field = TrimSpaces(tag.substr(place, length));
   const auto nul = field.find('\0');
-  if (nul != std::string_view::npos)
+  if (nul != std::string_view::npos) {
     field = TrimSpaces(field.substr(0, nul));
+  }
   return TextFromCodePage(field);
 }
 
@@ -30,15 +31,17 @@ Text CleanField(std::string_view tag, std::size_t place, std::size_t length) {
 // comment of 29 is the longest that can be written.
 std::string CommentField(TextView comment) {
   const std::string bytes = CodePageBytes(comment.substr(0, TextLength));
-  if (bytes.size() > CommentLength)
+  if (bytes.size() > CommentLength) {
     throw RunError(ErrorNumber::InvalidArgument);
+  }
   return PaddedWithNuls(bytes, CommentLength);
 }
 
 char TrackByte(const Text& track) {
   const std::int16_t number = Int16Of(track.empty() ? Text(u"0") : track);
-  if (number < 0 || number > 255)
+  if (number < 0 || number > 255) {
     throw RunError(ErrorNumber::InvalidArgument);
+  }
   return static_cast<char>(number);
 }
 
@@ -46,8 +49,9 @@ char TrackByte(const Text& track) {
 
 ID3Tag ParseID3v1(std::string_view last128) {
   ID3Tag tag;
-  if (last128.size() < ID3v1Length || !last128.starts_with(Mark))
+  if (last128.size() < ID3v1Length || !last128.starts_with(Mark)) {
     return tag;
+  }
   tag.Title = CleanField(last128, 3, TextLength);
   tag.Artist = CleanField(last128, 33, TextLength);
   tag.Album = CleanField(last128, 63, TextLength);
@@ -56,8 +60,9 @@ ID3Tag ParseID3v1(std::string_view last128) {
   // The byte is the track in every tag: of one in the older layout it is the end of the comment.
   tag.Track = DecimalText(static_cast<std::uint8_t>(last128[TrackPlace]));
   tag.Genre = static_cast<std::uint8_t>(last128[GenrePlace]);
-  if (tag.Track.size() == 1)
+  if (tag.Track.size() == 1) {
     tag.Track.insert(0, u"0");
+  }
   tag.Present = true;
   return tag;
 }

@@ -32,8 +32,9 @@ void WriteID3v1(FileSystem& files, FailureReport& report, TextView path, const I
     const auto file = files.Open(path, OpenMode::ReadWrite);
     InPlaceChange change = ReadEnd(*file);
     change.NewBytes = BuildID3v1(tag);
-    if (change.NewBytes == change.OldBytes)
+    if (change.NewBytes == change.OldBytes) {
       return;
+    }
     if (!IsTag(change.OldBytes) && change.OldSize >= ID3v1Length) {
       change.Position = change.OldSize;
       change.OldBytes.clear();
@@ -47,10 +48,12 @@ void RemoveID3v1(FileSystem& files, FailureReport& report, TextView path) {
   ReportingFailures(report, u"", u"RemoveID3v1", FileNameOf(path, HostPathStyle), [&] {
     const auto file = files.Open(path, OpenMode::ReadWrite);
     InPlaceChange change = ReadEnd(*file);
-    if (!IsTag(change.OldBytes))
+    if (!IsTag(change.OldBytes)) {
       return;
-    if (change.Position == 0)
+    }
+    if (change.Position == 0) {
       throw RunError(ErrorNumber::SubscriptOutOfRange);
+    }
     change.NewSize = change.Position;
     change.OldBytes.clear();  // nothing is overwritten, the file is only cut
     ChangeInPlace(*file, change);

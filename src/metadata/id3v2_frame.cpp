@@ -23,14 +23,16 @@ std::int32_t DeclaredTagSize(std::string_view header) {
 std::optional<std::size_t> FindFrame(std::string_view tag, std::string_view id) {
   const std::string needle = std::string(id) + std::string(3, '\0');
   const auto place = tag.find(needle, TagHeaderLength);
-  if (place == std::string_view::npos)
+  if (place == std::string_view::npos) {
     return std::nullopt;
+  }
   return place;
 }
 
 int TextLengthAt(std::string_view tag, std::size_t place) {
-  if (place >= tag.size())
+  if (place >= tag.size()) {
     throw RunError(ErrorNumber::InvalidArgument);
+  }
   return static_cast<std::uint8_t>(tag[place]) - 1;
 }
 

@@ -39,23 +39,26 @@ Frame LocateFrame(std::string_view tag, std::string_view id) {
 std::string CutText(std::string_view tag, const Frame& frame, int skipped = 0) {
   const std::size_t place = frame.TextPlace + static_cast<std::size_t>(skipped);
   const int length = frame.TextLength - skipped;
-  if (!frame.Found || length < 1 || place >= tag.size())
+  if (!frame.Found || length < 1 || place >= tag.size()) {
     return {};
+  }
   return std::string(TrimSpaces(tag.substr(place, static_cast<std::size_t>(length))));
 }
 
 std::string CutAtFirstNul(const std::string& field) {
   const auto nul = field.find('\0');
-  if (nul == std::string::npos)
+  if (nul == std::string::npos) {
     return field;
+  }
   return std::string(TrimSpaces(std::string_view(field).substr(0, nul)));
 }
 
 // The number in "(17)"; what stands in front of it isn't looked at.
 std::int16_t GenreNumber(std::string_view text) {
   const auto bracket = text.find(')', 1);
-  if (bracket == std::string_view::npos || bracket < 2)
+  if (bracket == std::string_view::npos) {
     return 0;
+  }
   const Text number = TextFromCodePage(text.substr(1, bracket - 1));
   return IsNumeric(number) ? Int16Of(number) : std::int16_t{0};
 }
@@ -63,8 +66,9 @@ std::int16_t GenreNumber(std::string_view text) {
 // UTF-16, low byte first, if that is what it looks like: an even number of bytes with a NUL among
 // them. Any other text is of the code page.
 Text DecodeText(std::string_view bytes) {
-  if (bytes.find('\0') == std::string_view::npos || bytes.size() % 2 != 0)
+  if (bytes.find('\0') == std::string_view::npos || bytes.size() % 2 != 0) {
     return TextFromCodePage(bytes);
+  }
   Text text;
   for (std::size_t i = 0; i < bytes.size(); i += 2) {
     const auto low = static_cast<std::uint8_t>(bytes[i]);
@@ -76,25 +80,29 @@ Text DecodeText(std::string_view bytes) {
 
 Text DecodeTrack(std::string_view bytes) {
   Text track = TextFromCodePage(WithoutAll(bytes, std::string_view("\0", 1)));
-  if (!IsNumeric(track))
+  if (!IsNumeric(track)) {
     track = u"0";
-  if (track.size() == 1)
+  }
+  if (track.size() == 1) {
     track.insert(0, u"0");
+  }
   return track;
 }
 
 }  // namespace
 
 std::size_t ID3v2ReadLength(std::string_view fileStart) {
-  if (!HasID3v2Header(fileStart))
+  if (!HasID3v2Header(fileStart)) {
     return 0;
+  }
   return static_cast<std::size_t>(std::max(DeclaredTagSize(fileStart), MinimumTagSize)) + 1;
 }
 
 ID3Tag ParseID3v2(std::string_view fileStart) {
   const std::size_t length = ID3v2ReadLength(fileStart);
-  if (length == 0)
+  if (length == 0) {
     return {};
+  }
   const std::string tag =
       PaddedWithNuls(fileStart, std::min(length, fileStart.size() + ReachBehindEnd));
 

@@ -45,8 +45,9 @@ std::string NewID3v2(const ID3Tag& tag) {
   bytes += NewFrame("TYER", CodePageBytes(tag.Year));
   bytes += NewFrame("TRCK", CodePageBytes(tag.Track));
   bytes += FrameBytes("TCON", GenreText(tag), genreSize);
-  if (bytes.size() > MinimumLength)
+  if (bytes.size() > MinimumLength) {
     throw RunError(ErrorNumber::InvalidArgument);
+  }
   return PaddedWithNuls(bytes, MinimumLength);
 }
 
@@ -54,8 +55,9 @@ std::string UpdatedID3v2(std::string_view oldTag, const ID3Tag& tag) {
   std::string bytes(oldTag);
   if (oldTag.size() < MinimumLength) {
     bytes = NewHeader();
-    if (oldTag.size() > TagHeaderLength)
+    if (oldTag.size() > TagHeaderLength) {
       bytes += oldTag.substr(TagHeaderLength);
+    }
     bytes.resize(MinimumLength);
   }
   const std::size_t newSize = bytes.size();

@@ -20,10 +20,12 @@ constexpr std::uint64_t LargestExcess = std::uint64_t{1} << 20;
 std::string ReadOldTag(OpenFile& file, std::int32_t declaredSize) {
   const auto size = static_cast<std::uint64_t>(declaredSize);
   const std::uint64_t fileSize = file.Size();
-  if (size == 0)
+  if (size == 0) {
     throw RunError(ErrorNumber::SubscriptOutOfRange);
-  if (size > fileSize + LargestExcess)
+  }
+  if (size > fileSize + LargestExcess) {
     throw RunError(ErrorNumber::PastEndOfFile);
+  }
   return PaddedWithNuls(ReadExactly(file, 0, std::min(size, fileSize)),
                         static_cast<std::size_t>(size));
 }
@@ -109,8 +111,9 @@ class ID3v2Change {
     }
     const InPlaceChange change = grown ? MoveRest(file, newTag, oldTag.size(), dropped)
                                        : ExchangeStart(file, oldTag, newTag, dropped);
-    if (dropped > 0)
+    if (dropped > 0) {
       status_.SetStatus(u"ID3v2 exists, ID3v1 removed, rewriting file...", 66);
+    }
     ChangeInPlace(file, change);
   }
 

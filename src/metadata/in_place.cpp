@@ -17,15 +17,17 @@ class Changer {
   void Change() {
     const std::uint64_t end = lowest_;
     const std::uint64_t oldEnd = std::min(end, change_.OldSize);
-    if (end > oldEnd)
+    if (end > oldEnd) {
       Write(oldEnd, end);
+    }
     for (std::uint64_t to = oldEnd; to > change_.Position;) {
       const std::uint64_t from = to - std::min<std::uint64_t>(to - change_.Position, InPlaceBlock);
       Write(from, to);
       to = from;
     }
-    if (change_.NewSize < change_.OldSize)
+    if (change_.NewSize < change_.OldSize) {
       file_.SetSize(change_.NewSize);
+    }
   }
 
   // The length comes last, so that what can't be put back isn't cut off as well.
@@ -34,8 +36,9 @@ class Changer {
     if (lowest_ < change_.Position + old.size()) {
       file_.WriteAt(lowest_, old.substr(static_cast<std::size_t>(lowest_ - change_.Position)));
     }
-    if (file_.Size() != change_.OldSize)
+    if (file_.Size() != change_.OldSize) {
       file_.SetSize(change_.OldSize);
+    }
   }
 
  private:
@@ -65,8 +68,9 @@ void ChangeInPlace(OpenFile& file, const InPlaceChange& change) {
 
 std::string ReadExactly(OpenFile& file, std::uint64_t position, std::uint64_t length) {
   std::string bytes = file.ReadAt(position, static_cast<std::size_t>(length));
-  if (bytes.size() != length)
+  if (bytes.size() != length) {
     throw RunError(ErrorNumber::PastEndOfFile);
+  }
   return bytes;
 }
 

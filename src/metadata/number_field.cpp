@@ -6,11 +6,13 @@
 namespace vorlane {
 
 std::int16_t Int16Of(TextView text) {
-  if (!IsNumeric(text))
+  if (!IsNumeric(text)) {
     throw RunError(ErrorNumber::TypeMismatch);
+  }
   const auto number = ReadInt16(text);
-  if (!number)
+  if (!number) {
     throw RunError(ErrorNumber::Overflow);
+  }
   return *number;
 }
 

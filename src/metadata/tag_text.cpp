@@ -16,18 +16,22 @@ constexpr std::size_t FieldCount = 9;
 
 bool BooleanOf(TextView field) {
   const auto number = ReadNumber(field);
-  if (!number)
+  if (!number) {
     throw RunError(ErrorNumber::TypeMismatch);
+  }
   return *number != 0;
 }
 
 std::uint8_t HexDigit(char16_t digit) {
-  if (digit >= u'0' && digit <= u'9')
+  if (digit >= u'0' && digit <= u'9') {
     return static_cast<std::uint8_t>(digit - u'0');
-  if (digit >= u'A' && digit <= u'F')
+  }
+  if (digit >= u'A' && digit <= u'F') {
     return static_cast<std::uint8_t>(digit - u'A' + 10);
-  if (digit >= u'a' && digit <= u'f')
+  }
+  if (digit >= u'a' && digit <= u'f') {
     return static_cast<std::uint8_t>(digit - u'a' + 10);
+  }
   throw RunError(ErrorNumber::TypeMismatch);
 }
 
@@ -46,8 +50,9 @@ Text TagToString(const ID3Tag& tag, int version) {
 
 VersionedTag StringToTag(TextView line) {
   const std::vector<Text> fields = Split(line, Separator);
-  if (fields.size() < FieldCount)
+  if (fields.size() < FieldCount) {
     throw RunError(ErrorNumber::SubscriptOutOfRange);
+  }
   VersionedTag result;
   result.Version = Int16Of(fields[0]);
   result.Tag.Present = BooleanOf(fields[1]);
@@ -76,8 +81,9 @@ Text HexToString(TextView digits) {
   Text text;
   for (std::size_t i = 0; i < digits.size(); i += 2) {
     unsigned code = HexDigit(digits[i]);
-    if (i + 1 < digits.size())
+    if (i + 1 < digits.size()) {
       code = code << 4 | HexDigit(digits[i + 1]);
+    }
     text += CharacterOfByte(static_cast<std::uint8_t>(code));
   }
   return text;

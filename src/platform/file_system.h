@@ -45,7 +45,11 @@ struct EntryStatus {
 struct FileIdentity {
   std::uint64_t Device = 0;
   std::uint64_t Number = 0;
-  bool operator==(const FileIdentity&) const = default;
+  bool HasOneName = false;  // known to have no second name (hard link); no part of the identity
+
+  bool operator==(const FileIdentity& other) const {
+    return Device == other.Device && Number == other.Number;
+  }
 };
 
 struct FolderEntry {

@@ -14,7 +14,7 @@ class MessageLoop {
 
   // The same, but sleeps for up to that long until an event comes. For polls that have nothing to
   // do but wait.
-  virtual void YieldBlocking(int milliseconds) = 0;
+  virtual void YieldBlocking(int /*milliseconds*/) { Yield(); }
 };
 
 }  // namespace vorlane

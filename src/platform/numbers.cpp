@@ -91,7 +91,9 @@ std::optional<double> ReadDecimal(TextView text) {
   double number = 0;
   const char* const end = plain->data() + plain->size();
   const auto [stop, error] = std::from_chars(plain->data(), end, number);
-  if (error != std::errc() || stop != end) {
+  const bool tooSmall =
+      error == std::errc::result_out_of_range && plain->find("e-") != std::string::npos;
+  if ((error != std::errc() && !tooSmall) || stop != end) {
     return std::nullopt;
   }
   return surroundings.IsNegative() ? -number : number;

@@ -41,6 +41,26 @@ Text EnsureTrailingSeparator(TextView path, PathStyle style) {
   return result;
 }
 
+Text WithoutDotPieces(TextView path, PathStyle style) {
+  const Text separator(1, Separator(style));
+  std::vector<Text> kept;
+  for (Text& piece : Split(path, separator)) {
+    // The first piece is the root: a drive, or the nothing in front of "/".
+    if (piece == u".." && !kept.empty()) {
+      if (kept.size() > 1) {
+        kept.pop_back();
+      }
+    } else if (piece != u".") {
+      kept.push_back(std::move(piece));
+    }
+  }
+  Text resolved;
+  for (const Text& piece : kept) {
+    resolved += (&piece == &kept.front() ? Text() : separator) + piece;
+  }
+  return path.ends_with(separator) ? EnsureTrailingSeparator(resolved, style) : resolved;
+}
+
 Text FileNameOf(TextView path, PathStyle style) {
   const std::size_t separator = path.rfind(Separator(style));
   return Text(separator == TextView::npos ? path : path.substr(separator + 1));

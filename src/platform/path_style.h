@@ -26,6 +26,10 @@ bool IsRooted(TextView path, PathStyle style);
 // The path with a separator added unless it ends in one; the empty text becomes the separator.
 Text EnsureTrailingSeparator(TextView path, PathStyle style);
 
+// The path with its "." and ".." pieces resolved in the text, without a look at the disk; ".." at
+// the root stays there. A trailing separator stays.
+Text WithoutDotPieces(TextView path, PathStyle style);
+
 // The text behind the last separator.
 Text FileNameOf(TextView path, PathStyle style);
 

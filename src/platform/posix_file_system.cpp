@@ -45,7 +45,9 @@ std::optional<FileIdentity> PosixFileSystem::IdentityOf(TextView path) {
   if (!bytes || lstat(bytes->c_str(), &status) != 0) {
     return std::nullopt;
   }
-  return MakeIdentity(status);
+  FileIdentity identity = MakeIdentity(status);
+  identity.HasOneName = S_ISDIR(status.st_mode) || status.st_nlink == 1;
+  return identity;
 }
 
 bool PosixFileSystem::CreateFolder(TextView path) {

@@ -16,6 +16,9 @@ bool IsOneEntryWithOneName(FileSystem& files, const Text& folder, TextView oldNa
   if (!identity || identity != files.IdentityOf(folder + Text(newName))) {
     return false;
   }
+  if (identity->HasOneName) {
+    return true;
+  }
   // Two hard links of one file have one identity as well, but there both are listed.
   std::vector<Text> names;
   if (!Attempt([&] { names = files.ListNames(folder); })) {
@@ -28,17 +31,23 @@ bool IsOneEntryWithOneName(FileSystem& files, const Text& folder, TextView oldNa
 }
 
 // The first of two steps: to a name that nobody has. Returns that name, empty if it failed.
-Text RenameToFreshName(FileSystem& files, const Text& folder, const Text& from) {
+Text RenameToFreshName(FileSystem& files, const Text& folder, TextView oldName) {
   constexpr int MostAttempts = 1000;
+  const Text from = folder + Text(oldName);
+  // Not hidden, and with the old name in it: should the file be stuck with this name, it has to be
+  // found and known again. A long name leaves no room for that.
+  Text tail = u" " + Text(oldName);
   for (int attempt = 1; attempt <= MostAttempts; ++attempt) {
-    // Not hidden: should the file be stuck with this name, it has to be found.
-    Text to = folder + u"vorlane-renaming-" + DecimalText(attempt);
+    Text to = folder + u"vorlane-renaming-" + DecimalText(attempt) + tail;
     const auto outcome = files.RenameNoReplace(from, to);
     if (outcome == RenameOutcome::Done) {
       return to;
     }
     if (outcome == RenameOutcome::Refused) {
-      break;
+      if (tail.empty()) {
+        break;
+      }
+      tail.clear();
     }
   }
   return {};
@@ -46,15 +55,15 @@ Text RenameToFreshName(FileSystem& files, const Text& folder, const Text& from) 
 
 // If neither the second step nor the way back works, the file keeps the temporary name; nothing is
 // lost.
-RenameOutcome RenameInTwoSteps(FileSystem& files, const Text& folder, const Text& from,
+RenameOutcome RenameInTwoSteps(FileSystem& files, const Text& folder, TextView oldName,
                                const Text& to) {
-  const Text temporary = RenameToFreshName(files, folder, from);
+  const Text temporary = RenameToFreshName(files, folder, oldName);
   if (temporary.empty()) {
     return RenameOutcome::Refused;
   }
   const auto outcome = files.RenameNoReplace(temporary, to);
   if (outcome != RenameOutcome::Done) {
-    files.RenameNoReplace(temporary, from);
+    files.RenameNoReplace(temporary, folder + Text(oldName));
   }
   return outcome;
 }
@@ -72,7 +81,7 @@ RenameOutcome RenameWithinFolder(FileSystem& files, TextView folder, TextView ol
   const auto outcome = files.RenameNoReplace(from, to);
   if (outcome == RenameOutcome::TargetExists && EqualIgnoringCase(oldName, newName) &&
       IsOneEntryWithOneName(files, folderText, oldName, newName)) {
-    return RenameInTwoSteps(files, folderText, from, to);
+    return RenameInTwoSteps(files, folderText, oldName, to);
   }
   return outcome;
 }

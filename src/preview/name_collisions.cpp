@@ -1,5 +1,7 @@
 #include "preview/name_collisions.h"
 
+#include <algorithm>
+
 #include "platform/letter_case.h"
 
 namespace vorlane {
@@ -18,7 +20,7 @@ void NameCollisions::StartPass() {
   generation_ = form_.Rows.Generation();
   form_.CurrentNames.Refresh(form_.Rows);
   form_.ProposedNames.Refresh(form_.Rows);
-  firstCandidate_.clear();
+  numbers_.clear();
 }
 
 bool NameCollisions::IsNameTaken(TextView name, std::int32_t row) {
@@ -54,21 +56,61 @@ bool NameCollisions::IsOnDiskUnlisted(TextView name, std::int32_t row) {
 }
 
 Text NameCollisions::MakeNameUnique(TextView name, std::int32_t row) {
-  const FolderId folder = form_.Rows.At(row).Folder;
-  std::int32_t& first =
-      firstCandidate_.try_emplace(FoldCase(name) + u"/" + DecimalText(folder), 1).first->second;
+  const Text key = FoldCase(name) + u"/" + DecimalText(form_.Rows.At(row).Folder);
+  std::int32_t number = 0;
   while (true) {
-    const Text candidate = Candidate(first, name);
-    if (!IsProposedAbove(IndexedNames::KeyOf(candidate, folder), candidate, row)) {
-      break;
-    }
-    ++first;
-  }
-  for (std::int32_t number = first;; ++number) {
+    number = NextCandidate(key, name, number, row);
     Text candidate = Candidate(number, name);
     if (!IsNameTaken(candidate, row)) {
       return candidate;
     }
+    NoteTaken(key, name, number, row);
+  }
+}
+
+// The lowest number above `after` that no row above proposes.
+std::int32_t NameCollisions::NextCandidate(const Text& key, TextView name, std::int32_t after,
+                                           std::int32_t row) {
+  Numbers& numbers = numbers_[key];
+  const FolderId folder = form_.Rows.At(row).Folder;
+  const auto isProposed = [&](std::int32_t number) {
+    const Text candidate = Candidate(number, name);
+    return IsProposedAbove(IndexedNames::KeyOf(candidate, folder), candidate, row);
+  };
+  auto& held = numbers.HeldUntilRow;
+  for (auto first = held.begin(); first != held.end() && first->first <= row;) {
+    numbers.Retry.insert(first->second);
+    first = held.erase(first);
+  }
+  for (auto retry = numbers.Retry.upper_bound(after); retry != numbers.Retry.end();) {
+    if (!isProposed(*retry)) {
+      return *retry;
+    }
+    retry = numbers.Retry.erase(retry);
+  }
+  while (isProposed(numbers.Untried)) {
+    ++numbers.Untried;
+  }
+  return numbers.Untried;
+}
+
+void NameCollisions::NoteTaken(const Text& key, TextView name, std::int32_t number,
+                               std::int32_t row) {
+  Numbers& numbers = numbers_[key];
+  numbers.Untried = std::max(numbers.Untried, number + 1);
+  const Text candidate = Candidate(number, name);
+  const FolderId folder = form_.Rows.At(row).Folder;
+  std::int32_t lastHolder = 0;
+  form_.CurrentNames.AnySlot(IndexedNames::KeyOf(candidate, folder), candidate, folder,
+                             [&](std::int32_t slot) {
+                               lastHolder = std::max(lastHolder, slot + 1);
+                               return false;
+                             });
+  numbers.Retry.erase(number);
+  if (lastHolder > row) {
+    numbers.HeldUntilRow.emplace(lastHolder, number);
+  } else {
+    numbers.Retry.insert(number);
   }
 }
 

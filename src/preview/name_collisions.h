@@ -9,6 +9,8 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
+#include <set>
 #include <unordered_map>
 
 #include "form/form.h"
@@ -28,7 +30,8 @@ class NameCollisions {
   // be another row. It is kept so, since the outcome is only a proposal.
   bool IsNameTaken(TextView name, std::int32_t row);
 
-  // "(1)" + name, or with the lowest number that isn't taken.
+  // "(1)" + name, or with the lowest number that isn't taken. Cost: next to constant over a pass,
+  // but for numbers that are taken on disk by files outside the list: those are asked for again.
   Text MakeNameUnique(TextView name, std::int32_t row);
 
  private:
@@ -41,9 +44,19 @@ class NameCollisions {
 
   std::uint64_t generation_ = 0;  // of the rows that the indexes describe
 
-  // For a folder and name: all numbers below this one are proposed by rows above. Rows above keep
-  // their proposals during a pass, so these numbers can't become free again in it.
-  std::unordered_map<Text, std::int32_t> firstCandidate_;
+  // What a pass has learned of the numbers in front of one name in one folder. A number that a row
+  // above proposes stays taken for the rest of the pass and is forgotten. The others can become
+  // free: a later row's own name when the pass has reached that row, a file on disk at any time.
+  struct Numbers {
+    std::int32_t Untried = 1;      // no number from here on has been tried
+    std::set<std::int32_t> Retry;  // below Untried, to be asked for again
+    std::multimap<std::int32_t, std::int32_t> HeldUntilRow;  // by the row whose name it is
+  };
+
+  std::int32_t NextCandidate(const Text& key, TextView name, std::int32_t after, std::int32_t row);
+  void NoteTaken(const Text& key, TextView name, std::int32_t number, std::int32_t row);
+
+  std::unordered_map<Text, Numbers> numbers_;  // by folded name and folder
 };
 
 }  // namespace vorlane

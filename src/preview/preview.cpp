@@ -1,12 +1,9 @@
 #include "preview/preview.h"
 
 #include <algorithm>
-#include <utility>
 
-#include "metadata/tag_reading.h"
 #include "platform/file_name_bytes.h"
 #include "platform/letter_case.h"
-#include "preview/time_estimate.h"
 
 namespace vorlane {
 
@@ -32,9 +29,16 @@ void Preview::UpdateFilePreviewAll(bool all, std::int32_t row) {
   if (!done) {
     form_.View.TimerStopped(FormTimer::ProgramStatus);
     form_.Jobs.PreviewState = JobState::Idle;
-    form_.View.ControlEnabled(FormControl::Browse, true);
+    EnableBrowser();
     form_.SetPointer(MousePointer::Default);
     form_.SetStatusText(u"Ready");
+  }
+}
+
+// During a run the folder tree stays locked: another folder would take the rows from under it.
+void Preview::EnableBrowser() {
+  if (form_.Jobs.BatchState == JobState::Idle) {
+    form_.View.ControlEnabled(FormControl::Browse, true);
   }
 }
 
@@ -63,24 +67,34 @@ void Preview::RunPass(bool all, std::int32_t row) {
   }
   collisions_.StartPass();
 
-  const std::int32_t count = rows.Last - rows.First + 1;
-  TimeEstimate estimate(count);
-  for (std::int32_t i = rows.First; i <= rows.Last && IsRunning(); ++i) {
+  TimeEstimate estimate(rows.Last - rows.First + 1);
+  for (std::int32_t i = rows.First; i <= rows.Last; ++i) {
     const auto start = services_.Time.Milliseconds();
     PreviewRow(pass, i);
-    if (estimate.IsWanted()) {
-      const auto duration = static_cast<std::int32_t>(services_.Time.Milliseconds() - start);
-      const std::int32_t seconds = estimate.SecondsLeft(i, duration);
-      if (seconds >= 0) {
-        form_.HoldStatus(Text(PreviewText) + u" Estimated Time Remaining: " +
-                         FormatElapsed(seconds));
-        form_.SetProgress(
-            static_cast<std::int32_t>(std::int64_t{i - rows.First + 1} * 100 / count));
-      }
+    if (!IsRunning()) {
+      break;
     }
+    ShowProgress(estimate, rows, i,
+                 static_cast<std::int32_t>(services_.Time.Milliseconds() - start));
     services_.Loop.Yield();
+    if (!IsRunning()) {
+      break;
+    }
   }
   FinishPass();
+}
+
+void Preview::ShowProgress(TimeEstimate& estimate, RowRange rows, std::int32_t row,
+                           std::int32_t duration) {
+  if (!estimate.IsWanted()) {
+    return;
+  }
+  const std::int32_t seconds = estimate.SecondsLeft(row, duration);
+  if (seconds >= 0) {
+    form_.HoldStatus(Text(PreviewText) + u" Estimated Time Remaining: " + FormatElapsed(seconds));
+    form_.SetProgress(static_cast<std::int32_t>(std::int64_t{row - rows.First + 1} * 100 /
+                                                (rows.Last - rows.First + 1)));
+  }
 }
 
 Preview::RowRange Preview::RowsToDo(bool all, std::int32_t row) const {
@@ -102,15 +116,26 @@ void Preview::FinishPass() {
   form_.SetProgress(100);
   form_.View.TimerStopped(FormTimer::ProgramStatus);
   form_.Jobs.PreviewState = JobState::Idle;
-  form_.View.ControlEnabled(FormControl::Browse, true);
+  EnableBrowser();
   if (form_.Pointer == MousePointer::ArrowHourglass) {
     form_.SetPointer(MousePointer::Default);
   }
   form_.SetStatusText(u"Ready");
 }
 
+Preview::RowInHand Preview::TakeRow(std::int32_t row) const {
+  const FileRow& cells = form_.Rows.At(row);
+  return {row, cells.Name, form_.Rows.PathOf(row), cells.Folder, form_.Rows.Generation()};
+}
+
+// True if the list isn't the one that the row was taken from, or a newer preview has done it.
+bool Preview::IsOutdated(const RowInHand& in) const {
+  return form_.Rows.Generation() != in.Generation || form_.Jobs.PreviewState == JobState::Idle;
+}
+
 void Preview::PreviewRow(Pass& pass, std::int32_t row) {
-  const Text fullPath = form_.Rows.PathOf(row) + form_.Rows.At(row).Name;
+  const RowInHand in = TakeRow(row);
+  const Text fullPath = in.Path + in.Name;
   const EntryStatus status = services_.Files.StatusOf(fullPath);
   const bool exists = status.Kind == EntryKind::File || status.Kind == EntryKind::Folder;
   if (!exists || status.Hidden) {
@@ -125,34 +150,30 @@ void Preview::PreviewRow(Pass& pass, std::int32_t row) {
       form_.SetProposedCell(row, u"<File in Use>");
       return;
     }
-    if (HasMp3Extension(form_.Rows.At(row).Name)) {
-      pass.TagV1 = ReadID3v1(services_.Files, services_.Report, fullPath);
-      pass.TagV2 = ReadID3v2(services_.Files, services_.Report, fullPath);
-      form_.SetTagCells(row, pass.TagV1, pass.TagV2);
-      if (!pass.TagV2.Present) {
-        pass.TagV2 = pass.TagV1;
-      }
+    if (HasMp3Extension(in.Name)) {
+      pass.Tags = ReadRowTags(form_, services_, row);
     }
   }
-  UpdateBoxValues(row, pass.TagV1, pass.TagV2, false, false);
-  RunSteps(pass, row);
+  {
+    const QuietBoxes quiet(form_);
+    ComputeBoxValues(in, pass.Tags.V1, pass.Tags.V2);
+  }
+  RunSteps(pass, in);
 }
 
-void Preview::RunSteps(Pass& pass, std::int32_t row) {
+void Preview::RunSteps(Pass& pass, const RowInHand& in) {
   std::size_t position = 0;
   while (const auto step = NextStep(pass.Code, position)) {
-    if (!RunStep(pass, row, *step)) {
+    if (!RunStep(pass, in, *step)) {
       break;
     }
   }
-  pass.PreviousPath = form_.Rows.PathOf(row);
+  pass.PreviousFolder = in.Folder;
 }
 
 // False if the row's further steps are to be left out.
-bool Preview::RunStep(Pass& pass, std::int32_t row, TextView step) {
-  const Text path = form_.Rows.PathOf(row);
-  const Text name = form_.Rows.At(row).Name;
-  if (pass.UsesAutoNumber && !pass.PreviousPath.empty() && path != pass.PreviousPath) {
+bool Preview::RunStep(Pass& pass, const RowInHand& in, TextView step) {
+  if (pass.UsesAutoNumber && pass.PreviousFolder && pass.PreviousFolder != in.Folder) {
     pass.NumberUsed.Reset(form_.Rows.Count());  // numbers start afresh in each folder
   }
   std::int32_t number = 1;
@@ -161,26 +182,32 @@ bool Preview::RunStep(Pass& pass, std::int32_t row, TextView step) {
     if (!IsRunning()) {
       return false;
     }
-    bool numberMatters = false;
-    proposed = CleanFileName(Evaluate(step, row, number, pass.TagV1, pass.TagV2, &numberMatters));
+    bool wasNumbered = false;
+    proposed = CleanFileName(Evaluate(step, in, number, pass.Tags.V1, pass.Tags.V2, &wasNumbered));
     if (proposed.empty()) {
-      proposed = name;
+      proposed = in.Name;
     }
-    if (EqualIgnoringCase(proposed, name) || !collisions_.IsNameTaken(proposed, row)) {
+    if (IsOutdated(in)) {
+      return false;
+    }
+    if (EqualIgnoringCase(proposed, in.Name) || !collisions_.IsNameTaken(proposed, in.Row)) {
       break;
     }
     if (pass.UsesAutoNumber) {
       // A name that doesn't show the number would collide with every free one.
-      number = numberMatters ? pass.NumberUsed.NextFreeAutoNumber(number) : 1;
+      number = wasNumbered ? pass.NumberUsed.NextFreeAutoNumber(number) : 1;
       if (number != 1) {
         continue;
       }
     }
-    proposed = collisions_.MakeNameUnique(proposed, row);
+    proposed = collisions_.MakeNameUnique(proposed, in.Row);
     break;
   }
-  if (proposed != form_.Rows.At(row).Proposed) {
-    form_.SetProposedName(row, proposed);
+  if (IsOutdated(in)) {
+    return false;
+  }
+  if (proposed != form_.Rows.At(in.Row).Proposed) {
+    form_.SetProposedName(in.Row, proposed);
   }
   if (pass.UsesAutoNumber) {
     pass.NumberUsed.Take(number);
@@ -196,58 +223,58 @@ bool Preview::BoxesUseAutoNumber() const {
 
 void Preview::UpdateBoxValues(std::int32_t row, const ID3Tag& tagV1, const ID3Tag& tagV2,
                               bool showValues, bool startPreview) {
-  // The preview that may follow comes through here for each of its rows, and the boxes' events are
-  // to stay quiet until it has ended.
-  const bool suppressed = std::exchange(form_.SuppressBoxEvents, true);
-  bool preferAll = false;
-  for (std::size_t i = 0; i < form_.Boxes.size(); ++i) {
-    const OptionBox& box = form_.Boxes[i];
-    if (box.Visible && !box.Checked) {
-      form_.BoxValues.Values[i] = ValueOfBox(box, row, tagV1, tagV2, preferAll);
-    } else if (box.Checked) {
-      form_.BoxValues.Values[i] = box.Content;
-    }
-  }
+  const QuietBoxes quiet(form_);
+  ComputeBoxValues(TakeRow(row), tagV1, tagV2);
   if (showValues) {
     form_.ShowBoxValues();
   }
   if (startPreview) {
     UpdateFilePreviewAll(false, 0);
   }
-  form_.SuppressBoxEvents = suppressed;
 }
 
-// `preferAll` is only reset by a box without the marker for a single row, so it can stay set from
-// an earlier box.
-Text Preview::ValueOfBox(const OptionBox& box, std::int32_t row, const ID3Tag& tagV1,
+void Preview::ComputeBoxValues(const RowInHand& in, const ID3Tag& tagV1, const ID3Tag& tagV2) {
+  bool preferAll = false;
+  for (std::size_t i = 0; i < form_.Boxes.size(); ++i) {
+    const OptionBox& box = form_.Boxes[i];
+    if (box.Visible && !box.Checked) {
+      form_.BoxValues.Values[i] = ValueOfBox(box, in, tagV1, tagV2, preferAll);
+    } else if (box.Checked) {
+      form_.BoxValues.Values[i] = box.Content;
+    }
+  }
+}
+
+// `preferAll` isn't touched by a box without a formula or with the marker for a single row, so it
+// can stay set from an earlier box.
+Text Preview::ValueOfBox(const OptionBox& box, const RowInHand& in, const ID3Tag& tagV1,
                          const ID3Tag& tagV2, bool& preferAll) {
   if (!box.HasFormula()) {
     return box.Content;
   }
-  TextView formula = box.BoxCode;
+  const Text code = box.BoxCode;  // a yield may select another operation, with other boxes
+  TextView formula = code;
   const bool preferSingle = TakeMarker(formula, u"<PREFERBOX_SINGLE>");
   if (!preferSingle) {
     preferAll = TakeMarker(formula, u"<PREFERBOX_ALL>");
   }
   const bool one = !form_.DoAll;
-  const bool useTyped = (one && row == form_.Rows.Selected() && form_.BoxEdited) ||
+  const bool useTyped = (one && in.Row == form_.Rows.Selected() && form_.BoxEdited) ||
                         (form_.DoAll && preferAll) || (one && preferSingle);
   if (useTyped && !box.Content.empty()) {
     return box.Content;
   }
   ID3Tag copy = tagV2;
-  return Evaluate(formula, row, row, tagV1, copy, nullptr);
+  return Evaluate(formula, in, in.Row, tagV1, copy, nullptr);
 }
 
 // Neither a step that writes a tag nor one that makes a folder or moves has a name to offer.
-Text Preview::Evaluate(TextView code, std::int32_t row, std::int32_t number, const ID3Tag& tagV1,
+Text Preview::Evaluate(TextView code, const RowInHand& in, std::int32_t number, const ID3Tag& tagV1,
                        ID3Tag& tagV2, bool* wasNumbered) {
-  const Text name = form_.Rows.At(row).Name;
-  const Text path = form_.Rows.PathOf(row);
   EvaluationContext context{facts_, services_.Loop, form_.Paths};
   return ProcessFileName({.Code = code,
-                          .FileName = name,
-                          .Path = path,
+                          .FileName = in.Name,
+                          .Path = in.Path,
                           .TagV1 = tagV1,
                           .TagV2 = tagV2,
                           .AutoNumber = number,

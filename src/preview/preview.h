@@ -10,7 +10,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <optional>
 
 #include "engine/entry_facts.h"
 #include "engine/operation_steps.h"
@@ -18,6 +18,8 @@
 #include "form/form.h"
 #include "metadata/id3_tag.h"
 #include "preview/name_collisions.h"
+#include "preview/row_tags.h"
+#include "preview/time_estimate.h"
 #include "preview/used_numbers.h"
 
 namespace vorlane {
@@ -47,9 +49,18 @@ class Preview {
     Text Code;
     bool UsesAutoNumber = false;
     UsedNumbers NumberUsed;
-    Text PreviousPath;
-    ID3Tag TagV1;  // the last MP3 records read; not cleared between rows
-    ID3Tag TagV2;
+    std::optional<FolderId> PreviousFolder;
+    RowTags Tags;  // the last MP3 records read; not cleared between rows
+  };
+
+  // A row as it was when its turn came. A yield may move rows or fill the list anew, so nothing of
+  // it is read from the list again.
+  struct RowInHand {
+    std::int32_t Row;
+    Text Name;
+    Text Path;
+    FolderId Folder;
+    std::uint64_t Generation;
   };
 
   struct RowRange {
@@ -59,16 +70,20 @@ class Preview {
 
   void RunPass(bool all, std::int32_t row);
   RowRange RowsToDo(bool all, std::int32_t row) const;
+  RowInHand TakeRow(std::int32_t row) const;
   void PreviewRow(Pass& pass, std::int32_t row);
-  void RunSteps(Pass& pass, std::int32_t row);
-  bool RunStep(Pass& pass, std::int32_t row, TextView step);
+  void RunSteps(Pass& pass, const RowInHand& in);
+  bool RunStep(Pass& pass, const RowInHand& in, TextView step);
+  void ShowProgress(TimeEstimate& estimate, RowRange rows, std::int32_t row, std::int32_t duration);
   void FinishPass();
+  void EnableBrowser();
   bool IsRunning() const { return form_.Jobs.PreviewState == JobState::Running; }
+  bool IsOutdated(const RowInHand& in) const;
 
-  Text ValueOfBox(const OptionBox& box, std::int32_t row, const ID3Tag& tagV1, const ID3Tag& tagV2,
-                  bool& preferAll);
-
-  Text Evaluate(TextView code, std::int32_t row, std::int32_t number, const ID3Tag& tagV1,
+  void ComputeBoxValues(const RowInHand& in, const ID3Tag& tagV1, const ID3Tag& tagV2);
+  Text ValueOfBox(const OptionBox& box, const RowInHand& in, const ID3Tag& tagV1,
+                  const ID3Tag& tagV2, bool& preferAll);
+  Text Evaluate(TextView code, const RowInHand& in, std::int32_t number, const ID3Tag& tagV1,
                 ID3Tag& tagV2, bool* wasNumbered);
 
   Form& form_;

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "platform/code_page.h"
 #include "support/form_world.h"
 
 namespace vorlane {
@@ -315,21 +318,233 @@ TEST(RunOne, AFileThatWasInUseIsLookedAtAgain) {
   EXPECT_TRUE(on.Disk.Exists(u"/R/xa"));
 }
 
-TEST(RunOne, WithoutAMarkTheSelectedRowIsLookedForIfTheListShowsRows) {
-  for (const std::int32_t perPage : {0, 5}) {
+// A list of "a", "b", "c" with proposals, in One mode, in which no row was ever selected.
+struct UnmarkedWorld : MemoryWorld {
+  UnmarkedWorld() {
+    for (const Text name : {u"a", u"b", u"c"}) {
+      Disk.Write(u"/R/" + name);
+    }
+    World.Loop.OnYield = [this] {
+      if (World.State.Rows.Count() == 3) {
+        World.State.Jobs.RequestStop();  // a stopped listing selects no row
+      }
+    };
+    World.ListAll(u"/R/");
+    World.Loop.OnYield = nullptr;
+    World.SelectSteps({u"x<FILENAME>"});
+    World.PreviewAll();
+    World.State.DoAll = false;
+  }
+};
+
+TEST(RunOne, WithoutAMarkTheRowsAreGoneThroughForASelectedOne) {
+  UnmarkedWorld on;
+  ASSERT_EQ(on.World.State.Rows.SelectionMark(), -1);
+  const auto start = on.World.Time.Ms;
+  std::size_t looks = 0;
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Jobs.BatchState == JobState::Running && ++looks == 2) {
+      on.World.State.SelectRow(3);
+    }
+  };
+  on.World.Batch.cmdGo_Click();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/xc"));
+  EXPECT_TRUE(on.Disk.Exists(u"/R/a"));
+  EXPECT_EQ(on.World.Time.Ms, start);  // going through rows doesn't wait
+}
+
+TEST(RunOne, WithoutAMarkAndWithoutAVisibleRowNothingIsDone) {
+  UnmarkedWorld on;
+  on.World.View.CountPerPage = 0;
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Jobs.BatchState == JobState::Running) {
+      on.World.State.SelectRow(2);
+    }
+  };
+  on.World.Batch.cmdGo_Click();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/b"));
+}
+
+// A row that is marked but not selected is tried again and again, without using the processor,
+// until something changes.
+TEST(RunOne, AMarkedRowThatIsNotSelectedIsWaitedFor) {
+  for (const bool stop : {true, false}) {
     MemoryWorld on;
     on.ListFiles({u"a", u"b"});
     on.World.SelectSteps({u"x<FILENAME>"});
     on.World.PreviewAll();
     on.World.State.DoAll = false;
     on.World.State.DeselectRow();
-    on.World.View.CountPerPage = perPage;
-    std::size_t before = on.World.Loop.Yields;
+    const auto start = on.World.Time.Ms;
+    std::size_t yields = 0;
+    on.World.Loop.OnYield = [&] {
+      if (++yields == 200 && stop) {
+        on.World.State.Jobs.RequestStop();
+      } else if (yields == 200) {
+        on.World.State.SelectRow(1);
+      }
+    };
     on.World.Batch.cmdGo_Click();
-    // No row is selected, so none is done, and the loop ends by itself.
-    EXPECT_EQ(FilesOf(on).count("a"), 1U);
-    EXPECT_GT(on.World.Loop.Yields, before);
+    EXPECT_EQ(on.Disk.Exists(u"/R/xa"), !stop);
+    EXPECT_GE(on.World.Time.Ms - start, 1500U);
   }
+}
+
+TEST(RunOne, AMarkOnTheLastRowEndsTheWaitAtOnce) {
+  MemoryWorld on;
+  on.ListFiles({u"a", u"b"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.PreviewAll();
+  on.World.State.DoAll = false;
+  on.World.State.SelectRow(2);
+  on.World.State.DeselectRow();
+  on.World.Batch.cmdGo_Click();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/a"));
+  EXPECT_TRUE(on.Disk.Exists(u"/R/b"));
+  EXPECT_EQ(on.World.State.Rows.Selected(), 1);
+}
+
+TEST(RunOne, ReplacesTheJournalOfTheRowBefore) {
+  MemoryWorld on;
+  on.ListFiles({u"a", u"b"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.State.DoAll = false;
+  on.World.PreviewAll();
+  on.World.Batch.cmdGo_Click();
+  on.World.Batch.cmdGo_Click();
+  EXPECT_EQ(JournalBody(on), "<VORL>|/R/|b|xb\r\n");
+}
+
+TEST(RunOne, ARowThatIsReadOnlyNoMoreIsNotLookedAtAgain) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.Disk.SetReadOnly(u"/R/a");
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.PreviewAll();
+  on.Disk.SetReadOnly(u"/R/a", false);
+  on.World.State.DoAll = false;
+  on.World.Batch.cmdGo_Click();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/a"));
+}
+
+// What the message loop may bring in the middle of a run.
+TEST(RunGuards, GoInsideARunOrAListingDoesNothing) {
+  MemoryWorld on;
+  on.ListFiles({u"a", u"b"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.Loop.OnYield = [&] { on.World.Batch.cmdGo_Click(); };
+  on.World.RunAll();
+  EXPECT_EQ(JournalBody(on), "<VORL>|/R/|a|xa\r\n<VORL>|/R/|b|xb\r\n");
+  on.World.List.PathChangedEvent();
+  EXPECT_EQ(on.World.Names(), (Names{u"xa", u"xb"}));
+}
+
+TEST(RunGuards, ASecondGoDuringTheWaitForThePreviewDoesNothing) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.State.Jobs.PreviewState = JobState::Running;  // lies below and never answers
+  on.World.Loop.OnYield = [&] { on.World.Batch.cmdGo_Click(); };
+  const auto start = on.World.Time.Ms;
+  on.World.RunAll();
+  EXPECT_GE(on.World.Time.Ms - start, 3000U);
+  EXPECT_EQ(JournalBody(on), "<VORL>|/R/|a|xa\r\n");
+}
+
+TEST(RunGuards, AnotherFolderListedInTheMiddleEndsTheRun) {
+  bool reachedEnd = false;
+  for (std::size_t at = 1; !reachedEnd; ++at) {
+    SCOPED_TRACE("yield " + std::to_string(at));
+    MemoryWorld on;
+    for (const Text name : {u"/N/a", u"/N/b", u"/N/c", u"/R/a", u"/R/b", u"/R/c"}) {
+      on.Disk.Write(name, CodePageBytes(name));
+    }
+    on.World.ListAll(u"/R/");
+    on.World.SelectSteps({u"<MID>x<FILENAME>|||</MID>"});
+    std::size_t yields = 0;
+    bool nested = false;
+    on.World.Loop.OnYield = [&] {
+      if (++yields == at) {
+        nested = true;
+        on.World.ListAll(u"/N/");
+      }
+    };
+    on.World.RunAll();
+    reachedEnd = !nested;
+    ASSERT_EQ(on.Disk.Contents(u"/N/"),
+              (std::map<std::string, std::string>{{"a", "/N/a"}, {"b", "/N/b"}, {"c", "/N/c"}}));
+    ASSERT_EQ(on.World.State.Jobs.BatchState, JobState::Idle);
+    // What was renamed until then can be taken back.
+    on.World.Loop.OnYield = nullptr;
+    on.World.State.CurrentPath = u"/R/";
+    on.World.Undo.cmdUndo_Click();
+    ASSERT_EQ(on.Disk.Contents(u"/R/"),
+              (std::map<std::string, std::string>{{"a", "/R/a"}, {"b", "/R/b"}, {"c", "/R/c"}}));
+    ASSERT_LT(at, 1000U);
+  }
+}
+
+TEST(RunGuards, TheFolderTreeStaysLockedBehindTheRunsOwnPreview) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  bool unlocked = false;
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Jobs.BatchState == JobState::Running) {
+      unlocked = unlocked || on.World.View.Notes.back() == u"control 1 enabled";
+    }
+  };
+  on.World.View.Notes.clear();
+  on.World.RunAll();
+  EXPECT_FALSE(unlocked);
+  EXPECT_TRUE(on.World.View.Has(u"control 1 enabled"));  // at the end
+}
+
+TEST(Run, AStopDuringItsPreviewRenamesNothingAndLeavesTheBareJournal) {
+  MemoryWorld on;
+  on.ListFiles({u"a", u"b"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Jobs.PreviewState == JobState::Running) {
+      on.World.State.Jobs.RequestStop();
+    }
+  };
+  on.World.RunAll();
+  EXPECT_EQ(on.World.Names(), (Names{u"a", u"b"}));
+  EXPECT_EQ(JournalBody(on), "");
+  EXPECT_FALSE(on.World.State.UndoEnabled);
+}
+
+TEST(Run, WorksOutEachRowsBoxesTwice) {
+  MemoryWorld on;
+  on.ListFiles({u"a", u"b"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.View.Notes.clear();
+  on.World.State.Jobs.BatchState = JobState::Idle;
+  on.World.RunAll();
+  const auto& notes = on.World.View.Notes;
+  // Twice for each of two rows, and once for the click that ends the run.
+  EXPECT_EQ(std::count(notes.begin(), notes.end(), u"box 0"), 5);
+}
+
+TEST(Run, WithoutASelectedOperationFails) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.PreviewAll();
+  on.World.State.SelectedOperation = 0;
+  on.World.RunAll();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/a"));
+  EXPECT_EQ(on.World.Report.Reports, (Reports{{u"frmMain", u"cmdGo_Click", u"", 9}}));
+}
+
+TEST(Run, UndoStaysEnabledThoughTheLastClickListsAnew) {
+  MemoryWorld on;
+  on.ListFiles({u"a", u"b"});
+  on.World.SelectSteps({u"<CREATEFOLDER>x</CREATEFOLDER>", u"<MOVE>x</MOVE>"});
+  on.World.RunAll();
+  EXPECT_TRUE(on.World.Names().empty());
+  EXPECT_TRUE(on.World.State.UndoEnabled);
 }
 
 TEST(FolderSteps, MakeAFolderMoveIntoItAndJournalBoth) {
@@ -392,6 +607,44 @@ TEST(FolderSteps, SeeTheSelectedRowsBoxesInBothModes) {
     EXPECT_TRUE(on.Disk.Exists(u"/R/bdir"));
     EXPECT_EQ(on.Disk.Exists(u"/R/adir"), all);
   }
+}
+
+TEST(FolderSteps, NeverWorkBelowTheFolderThatTheProcessIsIn) {
+  for (const Text step : {u"<CREATEFOLDER>x", u"<MOVE>x", u"pre<CREATEFOLDER>x</CREATEFOLDER>",
+                          u"<MOVE>C:\\x</MOVE>"}) {
+    MemoryWorld on;
+    on.Disk.MakeFolder(u"/x");
+    on.ListFiles({u"a"});
+    on.World.SelectSteps({step});
+    on.Disk.ForgetCalls();
+    on.World.RunAll();
+    for (const Text& call : on.Disk.Calls) {
+      EXPECT_NE(call.find(u" /"), Text::npos) << testing::PrintToString(call);
+    }
+    EXPECT_TRUE(on.Disk.Exists(u"/R/a"));
+    EXPECT_EQ(JournalBody(on), "no journal");
+  }
+}
+
+TEST(FolderSteps, KeywordsAreCaseSensitive) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.World.SelectSteps({u"<createfolder>x</createfolder>"});
+  on.World.RunAll();
+  EXPECT_EQ(on.Disk.Contents(u"/R/").count("x/"), 0U);
+}
+
+TEST(FolderSteps, UndoLeavesFoldersAloneThatWereThereBefore) {
+  MemoryWorld on;
+  on.Disk.MakeFolder(u"/R/old");
+  on.ListFiles({u"a"});
+  const auto before = on.Disk.Contents(u"/R/");
+  on.World.SelectSteps({u"<CREATEFOLDER>new/../old/sub</CREATEFOLDER>"});
+  on.World.RunAll();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/old/sub"));
+  EXPECT_FALSE(on.Disk.Exists(u"/R/new"));
+  on.World.Undo.cmdUndo_Click();
+  EXPECT_EQ(on.Disk.Contents(u"/R/"), before);
 }
 
 TEST(FolderSteps, UseTheRowNumber) {

@@ -61,8 +61,25 @@ TEST(JournalFields, SlashesWithoutFourDigitsAreNoEscape) {
 
 TEST(JournalFields, FoldersHaveSingleSeparators) {
   EXPECT_EQ(JournalFolderField(u"//a///b|/", PathStyle::Posix), "/a/b//007C/");
-  EXPECT_EQ(JournalFolderField(u"C:\\\\Music\\", PathStyle::Windows), "C:\\Music\\");
+  EXPECT_EQ(JournalFolderField(u"\\\\server\\share\\", PathStyle::Windows), "\\\\server\\share\\");
   EXPECT_EQ(TextOfJournalField("/a/b//007C/"), u"/a/b|/");
+}
+
+TEST(JournalFields, ATagsLineBreaksDoNotEndItsRecord) {
+  const Text tag = u"2|-1||||01||19\r\n|0";
+  EXPECT_EQ(JournalTagFields(tag), "2|-1||||01||19//000D//000A|0");
+  EXPECT_EQ(TextOfJournalTagFields(JournalTagFields(tag)), tag);
+}
+
+TEST(JournalHeader, TellsAJournalFromSomebodysFile) {
+  const std::string header = JournalHeader();
+  EXPECT_TRUE(IsJournalText(header));
+  EXPECT_TRUE(IsJournalText(header + "<VORL>|"));
+  EXPECT_TRUE(IsJournalText(header.substr(0, 60)));  // cut short
+  EXPECT_TRUE(IsJournalText("Another 1.0 - https://x/\r\n\r\n" + header.substr(47)));
+  EXPECT_FALSE(IsJournalText(""));
+  EXPECT_FALSE(IsJournalText("Vorlane"));
+  EXPECT_FALSE(IsJournalText("my own notes"));
 }
 
 TEST(JournalLines, AreWhatStandsBehindTheHeader) {

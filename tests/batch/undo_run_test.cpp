@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/form_world.h"
+#include "support/id3_bytes.h"
 
 namespace vorlane {
 namespace {
@@ -69,8 +70,8 @@ TEST(Undo, EndsWithTheFolderListedAnew) {
 }
 
 TEST(Undo, OfAnEmptyBodyOnlyRemovesTheJournal) {
-  for (const bool header : {true, false}) {  // without one it is a journal that was never finished
-    UndoWorld on("", header);
+  for (const bool header : {true, false}) {  // or one that was cut short
+    UndoWorld on(header ? "" : JournalHeader().substr(0, 20), header);
     EXPECT_EQ(on.Undo(), Files{});
     EXPECT_EQ(on.World.State.Status, u"Undo complete");
     EXPECT_TRUE(on.Listener.Lines.empty());
@@ -215,10 +216,70 @@ TEST(Undo, OfMoreThan32767LinesFailsAtOnce) {
 }
 
 TEST(Undo, AFileThatIsNoJournalIsNotTakenForOne) {
-  UndoWorld on("<VORL>|/R/|a|b\r\n", false);
-  on.Disk.Write(u"/R/b");
-  EXPECT_EQ(on.Undo(), (Files{{"UNDORENAME.TXT", "<VORL>|/R/|a|b\r\n"}, {"b", ""}}));
-  EXPECT_EQ(on.World.State.Status, u"");
+  for (const std::string& bytes : {std::string(), std::string("<VORL>|/R/|a|b\r\n")}) {
+    UndoWorld on(bytes, false);
+    on.Disk.Write(u"/R/b");
+    EXPECT_EQ(on.Undo(), (Files{{"UNDORENAME.TXT", bytes}, {"b", ""}}));
+    EXPECT_EQ(on.World.State.Status, u"");
+  }
+}
+
+TEST(Undo, DoesNothingWhileARunAListingOrAnotherUndoIsAtWork) {
+  for (int busy = 0; busy < 3; ++busy) {
+    UndoWorld on("<VORL>|/R/|a|b\r\n");
+    on.Disk.Write(u"/R/b");
+    on.World.State.Jobs.BatchState = busy == 0 ? JobState::Running : JobState::Idle;
+    on.World.State.Jobs.ListingState = busy == 1 ? JobState::Running : JobState::Idle;
+    on.World.State.JournalInUse = busy == 2;
+    EXPECT_EQ(on.Undo().count("b"), 1U);
+    EXPECT_TRUE(on.Listener.Lines.empty());
+  }
+}
+
+TEST(Undo, GoesOnWithItsFolderWhenAnotherOneIsListedMeanwhile) {
+  const std::string frames = id3::Frame("TPE1", "New");
+  UndoWorld on("<VORL>|/R/|a|b\r\n<MP3TAG>|2|-1|4F6C64|||01|||0|/R/|s.mp3\r\n");
+  on.Disk.Write(u"/R/b", "bytes");
+  on.Disk.Write(u"/R/s.mp3", id3::Tag(400, frames));
+  on.Disk.Write(u"/other/UNDORENAME.TXT", JournalHeader() + "theirs");
+  bool changed = false;
+  on.World.Loop.OnYield = [&] {
+    if (!changed) {
+      changed = true;
+      on.World.State.CurrentPath = u"/other/";
+    }
+  };
+  on.Undo();
+  EXPECT_TRUE(changed);
+  EXPECT_EQ(on.Disk.Read(u"/R/a"), "bytes");
+  EXPECT_FALSE(on.Disk.Exists(u"/R/UNDORENAME.TXT"));
+  EXPECT_TRUE(on.Disk.Exists(u"/other/UNDORENAME.TXT"));
+}
+
+TEST(Undo, TakesTheSameJournalTwiceWithoutHarm) {
+  const std::string records =
+      "<CREATEFOLDER>|1|/R/x/\r\n<MOVE>|/R/|a|/R/x/|a\r\n<VORL>|/R/|b|c\r\n";
+  UndoWorld on(records);
+  on.Disk.Write(u"/R/x/a", "1");
+  on.Disk.Write(u"/R/c", "2");
+  const Files once = on.Undo();
+  EXPECT_EQ(once, (Files{{"a", "1"}, {"b", "2"}}));
+  on.Disk.Write(u"/R/UNDORENAME.TXT", JournalHeader() + records);
+  EXPECT_EQ(on.Undo(), once);
+}
+
+TEST(Undo, BringsALinkBackThatLeadsNowhereFromItsNewPlace) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/song");
+  on.Disk.MakeLink(u"/R/link", u"song");
+  on.Disk.MakeFolder(u"/R/x");
+  on.World.ListAll(u"/R/");
+  const auto before = on.Disk.Contents(u"/");
+  on.World.SelectSteps({u"<MOVE>x</MOVE>"});
+  on.World.RunAll();
+  EXPECT_TRUE(on.Disk.Exists(u"/R/x/link"));
+  on.World.Undo.cmdUndo_Click();
+  EXPECT_EQ(on.Disk.Contents(u"/"), before);
 }
 
 TEST(Undo, AJournalThatCannotBeReadIsAFailureAndStays) {

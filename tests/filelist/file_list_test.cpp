@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/form_world.h"
 
 namespace vorlane {
@@ -105,6 +107,8 @@ TEST(Listing, TellsWhatItDoesAndYieldsForEachEntry) {
   on.Disk.Write(u"/R/b");
   on.Disk.Write(u"/R/c");
   on.World.ListAll(u"/R/");
+  // Once for each status, and once for the preview's two empty looks at the list.
+  EXPECT_EQ(on.World.Loop.Yields, 5U);
   EXPECT_EQ(on.World.View.Statuses,
             (Names{u"Checking attributes and collecting files/folders...",
                    u"Adding files, please wait...", u"Adding files, please wait...",
@@ -204,7 +208,7 @@ TEST(Listing, BracketsTheWorkWithLockedControls) {
   EXPECT_TRUE(locked);
   EXPECT_FALSE(on.World.State.StopVisible);
   EXPECT_FALSE(on.World.State.UndoEnabled);
-  EXPECT_FALSE(on.World.State.SuppressBoxEvents);
+  EXPECT_FALSE(on.World.State.SuppressBoxEvents());
   EXPECT_EQ(on.World.State.Pointer, MousePointer::Default);
 }
 
@@ -247,21 +251,133 @@ TEST(Listing, AListingInsideAListingIsTheOneThatCounts) {
   EXPECT_EQ(on.World.State.Jobs.ListingState, JobState::Idle);
 }
 
-TEST(Listing, AFailureIsReportedAndTheTailStillRuns) {
+TEST(Listing, AFailureInsideTheListingItselfIsNotReported) {
   MemoryWorld on;
   on.Disk.Write(u"/R/a");
-  on.Disk.BeforeCall = [](const CallInfo& call) {
-    if (call.Method == u"StatusOf") {
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Rows.Count() == 0) {
       throw RunError(ErrorNumber::DeviceError);
     }
   };
+  on.World.ListAll(u"/R/");
+  EXPECT_TRUE(on.World.Report.Reports.empty());
+  EXPECT_EQ(on.World.Names(), (Names{u"a"}));
+}
+
+// A preview lies below the listing and never answers; the wait for it fails.
+TEST(Listing, AnyOtherFailureIsReportedWithThePointerBackAndTheTailStillRuns) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/a");
+  on.World.State.Jobs.PreviewState = JobState::Running;
+  on.World.Loop.OnYield = [&] { throw RunError(ErrorNumber::DeviceError); };
   on.World.ListAll(u"/R/");
   EXPECT_EQ(on.World.Report.Reports,
             (std::vector<RecordingReport::Report>{{u"frmMain", u"PathChangedEvent", u"", 57}}));
   EXPECT_EQ(on.World.State.Jobs.ListingState, JobState::Idle);
   EXPECT_EQ(on.World.State.Pointer, MousePointer::Default);
   EXPECT_FALSE(on.World.State.StopVisible);
-  EXPECT_FALSE(on.World.State.SuppressBoxEvents);
+  EXPECT_FALSE(on.World.State.SuppressBoxEvents());
+}
+
+TEST(Listing, GoesByWhatTheFormHeldAtItsStart) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/a.txt");
+  on.Disk.Write(u"/R/b.mp3");
+  on.World.Loop.OnYield = [&] { on.World.State.WildCard = u"*.mp3"; };
+  on.World.ListAll(u"/R/");
+  EXPECT_EQ(on.World.Names(), (Names{u"a.txt", u"b.mp3"}));
+}
+
+TEST(Listing, TheCounterCountsEntriesAndNotRows) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/a.txt");
+  on.Disk.Write(u"/R/b.mp3");
+  on.World.State.WildCard = u"*.mp3";
+  Names held;
+  on.World.Loop.OnYield = [&] { held.push_back(on.World.State.HeldFileStatus); };
+  on.World.ListAll(u"/R/");
+  EXPECT_NE(std::find(held.begin(), held.end(), u"0 File(s)"), held.end());
+  EXPECT_NE(std::find(held.begin(), held.end(), u"2 File(s)"), held.end());
+  EXPECT_EQ(on.World.State.HeldFileStatus, u"1 File(s)");
+}
+
+TEST(Listing, ASelectionMadeInTheMiddleDoesNotStay) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/a");
+  on.Disk.Write(u"/R/b");
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Rows.Count() == 1) {
+      on.World.State.SelectRow(1);
+      on.World.State.Jobs.RequestStop();
+    }
+  };
+  on.World.ListAll(u"/R/");
+  EXPECT_EQ(on.World.State.Rows.Selected(), 0);
+}
+
+// A favorite or a drop can list another folder from any yield of a listing. Whenever it comes, the
+// newer list stands, whole and in order, and nothing of the older one is left behind.
+TEST(Listing, ANewerListingStandsWheneverItComes) {
+  bool reachedEnd = false;
+  for (std::size_t at = 1; !reachedEnd; ++at) {
+    SCOPED_TRACE("yield " + std::to_string(at));
+    MemoryWorld on;
+    for (int i = 0; i < 510; i += 100) {
+      on.Disk.Write(u"/old/x" + DecimalText(i) + u"/f");
+    }
+    on.Disk.Write(u"/old/a");
+    on.Disk.Write(u"/new/b");
+    on.Disk.Write(u"/new/a");
+    on.World.State.IncludeSubFolders = true;
+    on.World.SelectSteps({u"x<FILENAME>"});
+    on.World.ShowBox(1, u"", u"<MID><NAMEONLY>|||</MID>");
+    if (at % 2 == 0) {
+      on.World.State.Jobs.PreviewState = JobState::Running;  // one that never answers lies below
+    }
+    std::size_t yields = 0;
+    bool nested = false;
+    on.World.Loop.OnYield = [&] {
+      if (++yields == at) {
+        nested = true;
+        on.World.ListAll(u"/new/");
+      }
+    };
+    on.World.ListAll(u"/old/");
+    reachedEnd = !nested;
+    const Form& form = on.World.State;
+    if (nested) {
+      ASSERT_EQ(on.World.Names(), (Names{u"a", u"b"}));
+      ASSERT_EQ(form.HeldFileStatus, u"2 File(s)");
+      ASSERT_EQ(form.LastFileCount, 2);
+    }
+    ASSERT_TRUE(form.Rows.Sorted());
+    ASSERT_EQ(form.Rows.Selected(), 1);
+    ASSERT_EQ(form.Rows.At(1).Proposed, u"x" + form.Rows.At(1).Name);
+    ASSERT_FALSE(form.SuppressBoxEvents());
+    ASSERT_EQ(form.Jobs.ListingState, JobState::Idle);
+    ASSERT_FALSE(form.StopVisible);
+    ASSERT_TRUE(on.World.Report.Reports.empty());
+    ASSERT_LT(at, 1000U);
+  }
+}
+
+TEST(Listing, AHiddenListIsShownAgainWhenANewerOneComes) {
+  MemoryWorld on;
+  for (int i = 0; i < 502; ++i) {
+    on.Disk.Write(u"/old/" + DecimalText(i));
+  }
+  on.Disk.Write(u"/new/a");
+  bool nested = false;
+  on.World.Loop.OnYield = [&] {
+    if (!nested && on.World.State.Rows.Count() == 10) {
+      nested = true;
+      on.World.ListAll(u"/new/");
+    }
+  };
+  on.World.ListAll(u"/old/");
+  EXPECT_TRUE(nested);
+  EXPECT_TRUE(on.World.View.Has(u"list hidden"));
+  EXPECT_TRUE(on.World.View.Has(u"list shown"));
 }
 
 TEST(RowClick, WithoutASelectionDoesNothing) {

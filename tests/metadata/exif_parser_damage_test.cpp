@@ -33,7 +33,7 @@ constexpr std::size_t EntriesOfMotorolaHeader = 0x4D4D;
 std::vector<ExifTag> Tags(const std::string& file) {
   const auto contents = ParseExif(file);
   EXPECT_TRUE(contents) << "no EXIF block";
-  return contents ? contents->Tags : std::vector<ExifTag>();
+  return contents ? SingleEntries(contents->Tags) : std::vector<ExifTag>();
 }
 
 struct Refusal {

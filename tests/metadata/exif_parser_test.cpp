@@ -32,7 +32,11 @@ const std::string Marker("Exif\0\0", 6);
 ExifContents Parse(const std::string& file) {
   auto contents = ParseExif(file);
   EXPECT_TRUE(contents) << "no EXIF block";
-  return contents.value_or(ExifContents());
+  if (!contents) {
+    return {};
+  }
+  contents->Tags = SingleEntries(contents->Tags);
+  return *contents;
 }
 
 // Of the first entry with that number.
@@ -145,6 +149,30 @@ TEST(ExifParser, WithoutALinkTheHeaderIsTakenForADirectory) {
   EXPECT_EQ(motorola.Tags[1].Count, 0x00080001);
   EXPECT_EQ(motorola.Tags[1].Text, u"0");
   EXPECT_EQ(motorola.Tags.back(), UnreadEntry());
+}
+
+TEST(ExifParser, EqualEntriesBehindTheHeadAreKeptAsOne) {
+  const auto contents = ParseExif(ExifBuilder().Marked());
+  ASSERT_TRUE(contents);
+  ASSERT_LT(contents->Tags.size(), 400U);
+  std::size_t entries = 0;
+  for (const ExifTag& entry : contents->Tags) {
+    entries += static_cast<std::size_t>(entry.Times);
+  }
+  EXPECT_EQ(entries, EntriesOfIntelHeader);
+}
+
+TEST(ExifParser, SingleEntriesStandInTheirOrder) {
+  const auto entry = [](std::int32_t tag, std::int32_t times) {
+    ExifTag result;
+    result.Tag = tag;
+    result.Times = times;
+    return result;
+  };
+  EXPECT_EQ(
+      SingleEntries({entry(1, 1), entry(2, 3), entry(3, 1)}),
+      (std::vector<ExifTag>{entry(1, 1), entry(2, 1), entry(2, 1), entry(2, 1), entry(3, 1)}));
+  EXPECT_TRUE(SingleEntries({}).empty());
 }
 
 TEST(ExifParser, AnEntryOfTheHeaderAsADirectoryCanMeanSomething) {

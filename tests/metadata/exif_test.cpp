@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <string_view>
@@ -82,6 +83,15 @@ TEST_F(ExifTest, ListInfoByStatus) {
   EXPECT_EQ(ListInfo(ExifReadStatus::Read, {ExifTag()}), u": \r\n");
   EXPECT_EQ(ListInfo(ExifReadStatus::NotExif, {ExifTag()}), u"File is not in EXIF format.");
   EXPECT_EQ(ListInfo(ExifReadStatus::CouldNotOpen, {ExifTag()}), u"Could not open the file.");
+}
+
+TEST_F(ExifTest, ListInfoHasALineForEachOfManyEqualEntries) {
+  Write(ExifBuilder().ClaimEntries(1000).Marked());
+  const clsEXIF reader = Reader();
+  EXPECT_EQ(reader.Tags().size(), 1000U + 0x4949U);
+  const Text list = reader.ListInfo();
+  EXPECT_EQ(std::count(list.begin(), list.end(), u'\n'), 1000 + 0x4949);
+  EXPECT_TRUE(list.ends_with(u"\r\nTag #0: 0\r\nTag #0: 0\r\n"));
 }
 
 TEST_F(ExifTest, ANewReaderKnowsNothing) {

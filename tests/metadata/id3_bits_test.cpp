@@ -34,8 +34,9 @@ TEST(ID3Bits, DigitsOfFourBytesWithoutLeadingZeros) {
       Case{{0, 0, 1, 0xFF}, 6, "10000000"},
       Case{{0x81, 1, 0, 0}, 6, "100000000000000"},
   };
-  for (const Case& c : cases)
+  for (const Case& c : cases) {
     EXPECT_EQ(BytesToBits(c.Value, c.TopBit), c.Bits) << c.Bits;
+  }
 }
 
 TEST(ID3Bits, NumberOfDigits) {

@@ -120,16 +120,18 @@ TEST(ID3Corpus, EachFileGivesWhatItsNameSays) {
     EXPECT_EQ(Summary(ReadID3v2(files, report, path)), expected.V2) << expected.File;
     EXPECT_EQ(GetKbit(files, report, path), expected.Kbit) << expected.File;
     Text reporting;
-    for (const auto& one : report.Reports)
+    for (const auto& one : report.Reports) {
       reporting += one.Procedure;
+    }
     EXPECT_EQ(reporting, expected.Reporting) << expected.File;
   }
 }
 
 TEST(ID3Corpus, EachFileIsInTheTable) {
   std::set<std::string> named;
-  for (const Expected& expected : Table())
+  for (const Expected& expected : Table()) {
     named.insert(expected.File);
+  }
   std::set<std::string> present;
   for (const auto& entry : std::filesystem::directory_iterator(Corpus)) {
     present.insert(entry.path().stem().string());

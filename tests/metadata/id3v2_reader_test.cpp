@@ -20,8 +20,9 @@ const std::string Mark = "\xFF\xFE";
 
 std::string Utf16(std::string_view ascii) {
   std::string bytes;
-  for (const char c : ascii)
+  for (const char c : ascii) {
     bytes += std::string(1, c) + Nuls(1);
+  }
   return bytes;
 }
 
@@ -193,8 +194,9 @@ TEST(ParseID3v2, Comments) {
       // A description comes out with its NUL and the text behind it.
       {Frame("COMM", std::string("engabc\0text", 11)), Text(u"bc\0text", 7)},
   };
-  for (const Case& c : cases)
+  for (const Case& c : cases) {
     EXPECT_EQ(Parse(c.Frame).Comment, c.Result);
+  }
 }
 
 TEST(ParseID3v2, GenreTexts) {
@@ -343,8 +345,9 @@ TEST(ParseID3v2, Tracks) {
       // Spaces that a NUL kept at the end stay, and count as numeric.
       {"7 " + Nuls(1), u"7 "},
   };
-  for (const Case& c : cases)
+  for (const Case& c : cases) {
     EXPECT_EQ(Parse(Frame("TRCK", c.Track)).Track, c.Result) << c.Track;
+  }
 }
 
 TEST(ParseID3v2, YearLosesItsNulsAndNothingElse) {

@@ -37,13 +37,15 @@ std::size_t Missing(const std::string& bytes, const std::string& old, std::size_
   std::vector<bool> present(old.size() / 4 + 1);
   for (std::size_t i = 0; i + 4 <= bytes.size(); i += 4) {
     const std::uint32_t number = NumberAt(bytes, i);
-    if (number < present.size())
+    if (number < present.size()) {
       present[number] = true;
+    }
   }
   std::size_t missing = 0;
   for (std::size_t i = from; i < to; i += 4) {
-    if (!present[NumberAt(old, i)])
+    if (!present[NumberAt(old, i)]) {
       ++missing;
+    }
   }
   return missing;
 }
@@ -132,8 +134,9 @@ TEST(ChangeInPlace, DoesNothingWhereNothingChanges) {
 
 TEST(ChangeInPlace, EndedBetweenAnyTwoCallsLosesNothingThatMoves) {
   for (const Sample& sample : Samples()) {
-    if (!Moves(sample))
+    if (!Moves(sample)) {
       continue;
+    }
     MemoryFileSystem files;
     files.Write(Path, sample.Old);
     std::size_t looks = 0;
@@ -168,8 +171,9 @@ TEST(ChangeInPlace, AnyCallThatFailsOnceLeavesTheFileAsItWas) {
 
 TEST(ChangeInPlace, CallsThatFailFromThenOnCostAtMostOneStretch) {
   for (const Sample& sample : Samples()) {
-    if (!Moves(sample))
+    if (!Moves(sample)) {
       continue;
+    }
     MemoryFileSystem counted;
     counted.Write(Path, sample.Old);
     Apply(counted, sample.Change);

@@ -101,8 +101,9 @@ TEST(StringToTag, BrokenLines) {
       {u"1|-1|4142|4344||07||1999|x", 13},
       {u"1|-1|4142|4344||07||1999|40000", 6},
   };
-  for (const Case& c : cases)
+  for (const Case& c : cases) {
     EXPECT_EQ(ErrorOf([&] { StringToTag(c.Line); }), c.Error);
+  }
 }
 
 TEST(StringToTag, AnyNumberButZeroIsTrue) {

@@ -107,8 +107,9 @@ Result Undisturbed(const Way& way) {
 // What a write gives that doesn't find the ID3v1 tag, because it can't be read just then. (That
 // failure is told by the reader, and the tag stays.)
 std::string KeepingV1(Way way) {
-  if (way.Kind == Writer::V2RemovingV1)
+  if (way.Kind == Writer::V2RemovingV1) {
     way.Kind = Writer::V2;
+  }
   return Undisturbed(way).Bytes;
 }
 
@@ -171,11 +172,13 @@ TEST(TagWritingFailures, FullDiskLeavesTheFileAsItWas) {
 // How many bytes of the audio aren't in the file any more, at the start or behind one gap.
 std::size_t MissingAudio(const std::string& bytes, const std::string& audio) {
   std::size_t head = 0;
-  while (head < audio.size() && bytes.find(audio.substr(0, head + 1)) != std::string::npos)
+  while (head < audio.size() && bytes.find(audio.substr(0, head + 1)) != std::string::npos) {
     ++head;
+  }
   std::size_t tail = audio.size();
-  while (tail > 0 && bytes.find(audio.substr(tail - 1)) != std::string::npos)
+  while (tail > 0 && bytes.find(audio.substr(tail - 1)) != std::string::npos) {
     --tail;
+  }
   return tail > head ? tail - head : 0;
 }
 
@@ -189,8 +192,9 @@ TEST(TagWritingFailures, CallsThatFailFromThenOnCostAtMost257BytesOfTheAudio) {
       trial.Run();
       const std::string bytes = trial.Bytes();
       EXPECT_TRUE(trial.Complained()) << way.Name << ", call " << call;
-      if (way.Before.find(audio) == std::string::npos)
+      if (way.Before.find(audio) == std::string::npos) {
         continue;
+      }
       EXPECT_LE(MissingAudio(bytes, audio), 257U) << way.Name << ", call " << call;
       const bool nothingMoves = good.Bytes.find(audio) == way.Before.find(audio);
       if (nothingMoves) {

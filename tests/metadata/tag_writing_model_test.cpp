@@ -26,8 +26,9 @@ using id3::V1;
 
 // A file as a program sees that writes at a position of it.
 void Put(std::string& file, std::size_t position, const std::string& bytes) {
-  if (file.size() < position + bytes.size())
+  if (file.size() < position + bytes.size()) {
     file.resize(position + bytes.size());
+  }
   file.replace(position, bytes.size(), bytes);
 }
 
@@ -37,8 +38,9 @@ bool HasV1(const std::string& file) {
 
 // `count` bytes of the file from `from` on. Throws RunError 5 for a count below zero.
 std::string Part(const std::string& file, std::size_t from, std::ptrdiff_t count) {
-  if (count < 0)
+  if (count < 0) {
     throw RunError(ErrorNumber::InvalidArgument);
+  }
   return from < file.size() ? file.substr(from, static_cast<std::size_t>(count)) : std::string();
 }
 
@@ -48,8 +50,9 @@ std::ptrdiff_t Length(const std::string& file) {
 
 void PlainUpdate(std::string& file, const ID3Tag& tag, bool remove) {
   const auto oldSize = static_cast<std::size_t>(DeclaredTagSize(file));
-  if (oldSize == 0)
+  if (oldSize == 0) {
     throw RunError(ErrorNumber::SubscriptOutOfRange);
+  }
   std::string oldText = file.substr(0, oldSize);
   oldText.resize(oldSize);
   const std::string newText = UpdatedID3v2(oldText, tag);
@@ -59,13 +62,15 @@ void PlainUpdate(std::string& file, const ID3Tag& tag, bool remove) {
     if (grown) {
       rest = Part(file, oldSize, Length(file) - static_cast<std::ptrdiff_t>(oldSize) - 128);
     } else {
-      if (newText != oldText)
+      if (newText != oldText) {
         Put(file, 0, newText);
+      }
       rest = Part(file, 0, Length(file) - 128);
     }
     file.clear();
-    if (grown)
+    if (grown) {
       file = newText;
+    }
     file += rest;
   } else if (grown) {
     const std::string rest = oldSize < file.size() ? file.substr(oldSize) : std::string();
@@ -86,16 +91,19 @@ void PlainWriteID3v2(std::string& file, const ID3Tag& tag, bool remove) {
 }
 
 void PlainRemoveID3v1(std::string& file) {
-  if (!HasV1(file))
+  if (!HasV1(file)) {
     return;
-  if (file.size() == 128)
+  }
+  if (file.size() == 128) {
     throw RunError(ErrorNumber::SubscriptOutOfRange);
+  }
   file = file.substr(0, file.size() - 128);
 }
 
 void PlainWriteID3v1(std::string& file, const ID3Tag& tag) {
-  if (!tag.Present)
+  if (!tag.Present) {
     return PlainRemoveID3v1(file);
+  }
   const std::string newTag = BuildID3v1(tag);
   const std::size_t position = file.size() < 128 ? 0 : file.size();
   Put(file, HasV1(file) ? file.size() - 128 : position, newTag);
@@ -115,14 +123,17 @@ class Generator {
       const unsigned size = sizes[Below(std::size(sizes))];
       file = Header(size) + Frames();
       const unsigned behind = Below(3);
-      if (behind == 0)
+      if (behind == 0) {
         file.resize(size);
-      if (behind == 1)
+      }
+      if (behind == 1) {
         file.resize(std::max<std::size_t>(size, file.size()));
+      }
     }
     file += Audio(lengths[Below(std::size(lengths))]);
-    if (Below(2) == 0)
+    if (Below(2) == 0) {
       file += V1("t", "a", "l", "1999", "c", 7, 17);
+    }
     return file;
   }
 
@@ -143,10 +154,12 @@ class Generator {
   std::string Frames() {
     std::string frames;
     for (const char* id : {"TPE1", "TIT2", "XXXX", "COMM", "TALB", "TCON", "TRCK", "TYER"}) {
-      if (Below(2) == 0)
+      if (Below(2) == 0) {
         frames += Frame(id, std::string(Below(20), 'y'));
-      if (Below(4) == 0)
+      }
+      if (Below(4) == 0) {
         frames += Nuls(Below(100));
+      }
     }
     return frames;
   }
@@ -164,10 +177,12 @@ class TagWritingModel : public testing::Test {
     report_.Reports.clear();
     boxes_.Boxes.clear();
     write();
-    if (!report_.Reports.empty())
+    if (!report_.Reports.empty()) {
       return report_.Reports[0].Number;
-    if (boxes_.Boxes.empty())
+    }
+    if (boxes_.Boxes.empty()) {
       return 0;
+    }
     return boxes_.Boxes[0].Title == u"Error number: 5" ? 5 : 9;
   }
 

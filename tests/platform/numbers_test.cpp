@@ -64,6 +64,8 @@ TEST(Numbers, NumbersAreRead) {
       {u"1E2-", -100},
       {u"1,000E1", 10000},
       {u"1E308", 1e308},
+      {u"1E-400", 0},
+      {u"-1e-400", 0},
       {u"1E0000000002", 100},
       // Hexadecimal and octal.
       {u"&H1F", 31},

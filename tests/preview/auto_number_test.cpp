@@ -69,6 +69,31 @@ TEST(PreviewNumbers, ANumberWhoseNameIsTakenIsPassedOver) {
   EXPECT_EQ(on.World.Proposed(), (Names{u"1", u"2", u"3", u"4", u"5"}));
 }
 
+// The numbers reach as far as the entries that were found, listed or not; in a further folder as
+// far as the rows.
+TEST(PreviewNumbers, ReachAsFarAsTheEntriesFoundAndThenAsTheRows) {
+  MemoryWorld on;
+  on.World.State.WildCard = u"*.t";
+  on.ListFiles({u"1", u"2", u"3", u"a.t"});
+  on.World.SelectSteps({u"<BOX1>"});
+  on.World.ShowBox(1, u"<AUTONUMBER>");
+  on.World.PreviewAll();
+  EXPECT_EQ(on.World.Proposed(), (Names{u"4"}));
+  MemoryWorld below;
+  for (const Text name : {u"z.t", u"x/1", u"x/2", u"x/3", u"x/a.t", u"x/b.t"}) {
+    below.Disk.Write(u"/R/" + name);
+  }
+  below.World.State.WildCard = u"*.t";
+  below.World.State.IncludeSubFolders = true;
+  below.World.State.Rows.SetSort(Column::Path, SortOrder::Ascending);
+  below.World.ListAll(u"/R/");
+  below.World.SelectSteps({u"<BOX1>"});
+  below.World.ShowBox(1, u"<AUTONUMBER>");
+  below.World.PreviewAll();
+  // Three rows: the numbers end at 3, and all of them are taken on disk.
+  EXPECT_EQ(below.World.Proposed(), (Names{u"1", u"(1)3", u"(2)3"}));
+}
+
 TEST(PreviewNumbers, ANameThatDoesNotShowTheNumberFallsToTheFrontNumber) {
   MemoryWorld on;
   on.ListFiles({u"a.txt", u"b.txt", u"c.txt"});

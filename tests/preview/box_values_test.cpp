@@ -116,6 +116,15 @@ TEST(BoxValues, PreferAllStaysSetThroughABoxThatPrefersSingle) {
   EXPECT_EQ(on.World.State.BoxValues.Values[2], u"a");
 }
 
+TEST(BoxValues, PreferAllStaysSetThroughABoxWithoutAFormula) {
+  BoxWorld on;
+  on.World.ShowBox(1, u"one", u"<NAMEONLY><PREFERBOX_ALL>");
+  on.World.ShowBox(2, u"plain", u"Registry(key)");
+  on.World.ShowBox(3, u"three", u"<NAMEONLY><PREFERBOX_SINGLE>");
+  on.ValueOnRow(1);
+  EXPECT_EQ(on.World.State.BoxValues.Values[2], u"three");
+}
+
 TEST(BoxValues, ShowingPutsThemIntoTheBoxes) {
   BoxWorld on;
   on.World.ShowBox(1, u"typed", u"<NAMEONLY>");
@@ -131,12 +140,12 @@ TEST(BoxValues, BoxEventsStayQuietAlsoDuringThePreviewThatFollows) {
   std::size_t yields = 0;
   on.World.Loop.OnYield = [&] {
     ++yields;
-    quiet = quiet && on.World.State.SuppressBoxEvents;
+    quiet = quiet && on.World.State.SuppressBoxEvents();
   };
   on.World.Previews.UpdateBoxValues(1, {}, {}, false, true);
   EXPECT_GT(yields, 0U);
   EXPECT_TRUE(quiet);
-  EXPECT_FALSE(on.World.State.SuppressBoxEvents);
+  EXPECT_FALSE(on.World.State.SuppressBoxEvents());
   EXPECT_EQ(on.World.Proposed(), (std::vector<Text>{u"xa.txt", u"xb.txt"}));
 }
 

@@ -116,6 +116,41 @@ TEST(MakeNameUnique, ANumberThatALaterRowHeldIsFreeBehindThatRow) {
   EXPECT_EQ(on.Names.MakeNameUnique(u"x", 4), u"(2)x");
 }
 
+// The cost of names that all collide: a few name tests a row, however many rows there are, also if
+// a number is held by a file outside the list or by a row further down.
+TEST(MakeNameUnique, AsksAFewTimesARow) {
+  constexpr std::size_t Rows = 1000;
+  for (const Text held : {u"", u"(1)x", u"z(1)x"}) {
+    MemoryWorld on;
+    for (std::size_t i = 0; i < Rows; ++i) {
+      on.Disk.Write(u"/R/f" + DecimalText(static_cast<std::int64_t>(10'000 + i)));
+    }
+    if (!held.empty()) {
+      on.Disk.Write(u"/R/" + held);
+    }
+    on.World.State.WildCard = held == u"(1)x" ? u"f*" : u"*.*";
+    on.World.ListAll(u"/R/");
+    on.World.SelectSteps({u"<MID>x|||</MID>"});
+    on.World.Loop.Yields = 0;
+    on.World.PreviewAll();
+    EXPECT_LT(on.World.Loop.Yields, 8 * Rows) << testing::PrintToString(held);
+  }
+}
+
+TEST(MakeNameUnique, NamesHeldByManyLaterRowsAreAskedForOnce) {
+  constexpr std::size_t Rows = 1000;
+  MemoryWorld on;
+  for (std::size_t i = 1; i <= Rows; ++i) {
+    on.Disk.Write(u"/R/(" + DecimalText(static_cast<std::int64_t>(i)) + u")x");
+  }
+  on.World.State.Rows.SetSort(Column::CurrentName, SortOrder::Descending);
+  on.World.ListAll(u"/R/");
+  on.World.SelectSteps({u"<MID>x|||</MID>"});
+  on.World.Loop.Yields = 0;
+  on.World.PreviewAll();
+  EXPECT_LT(on.World.Loop.Yields, 8 * Rows);
+}
+
 // Random lists with few different names, so that everything collides with everything; also sorted
 // against finding order, with sub-folders and with a wildcard that hides entries.
 TEST(NameCollisions, AgreeWithTheSearchThroughAllSlots) {

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/form_world.h"
+#include "support/id3_bytes.h"
 
 namespace vorlane {
 namespace {
@@ -86,15 +89,124 @@ TEST(Preview, EqualNamesInDifferentFoldersDoNotCollide) {
 TEST(Preview, ReadOnlyAndUsedFilesShowMarkersAndAreNotCounted) {
   MemoryWorld on;
   on.ListFiles({u"1", u"2", u"3"});
-  on.Disk.SetReadOnly(u"/R/1");
-  on.Disk.SetInUse(u"/R/2");
+  on.Disk.SetReadOnly(u"/R/2");
+  on.Disk.SetInUse(u"/R/2");  // read-only comes first
+  on.Disk.SetInUse(u"/R/3");
   on.World.SelectSteps({u"<MID>a|||</MID>"});
   on.World.ShowBox(1, u"", u"<NAMEONLY>");
   on.World.PreviewAll();
-  EXPECT_EQ(on.World.Proposed(), (Names{u"<Read Only>", u"<File in Use>", u"a"}));
-  EXPECT_EQ(on.World.State.ProposedNames[0], u"");
+  EXPECT_EQ(on.World.Proposed(), (Names{u"a", u"<Read Only>", u"<File in Use>"}));
   EXPECT_EQ(on.World.State.ProposedNames[1], u"");
-  EXPECT_EQ(on.World.State.BoxValues.Values[0], u"3");  // only the third row ran its formulas
+  EXPECT_EQ(on.World.State.ProposedNames[2], u"");
+  EXPECT_EQ(on.World.State.BoxValues.Values[0], u"1");  // the others ran no formula
+}
+
+TEST(Preview, AReadOnlyFolderShowsItsMarker) {
+  MemoryWorld on;
+  on.Disk.MakeFolder(u"/R/x");
+  on.Disk.SetReadOnly(u"/R/x");
+  on.World.State.ListFolders = true;
+  on.World.ListAll(u"/R/");
+  on.World.SelectSteps({u"y<FILENAME>"});
+  on.World.PreviewAll();
+  EXPECT_EQ(on.World.Proposed(), (Names{u"<Read Only>"}));
+}
+
+TEST(Preview, ShowsWhatTheTagsOfAnMp3FileSay) {
+  const std::string v1 = id3::V1("Old title", "Old artist", "", "", "", 0, 0);
+  const std::string v2 =
+      id3::Tag(300, id3::Frame("TPE1", "New artist") + id3::Frame("TIT2", "New"));
+  MemoryWorld on;
+  on.Disk.Write(u"/R/1.mp3", id3::Audio(300) + v1);
+  on.Disk.Write(u"/R/2.MP3", v2 + id3::Audio(300) + v1);
+  on.Disk.Write(u"/R/3.txt", id3::Audio(300) + v1);
+  on.World.ListAll(u"/R/");
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.PreviewAll();
+  const FileRows& rows = on.World.State.Rows;
+  const Column columns[] = {Column::Artist, Column::Title, Column::ID3v1, Column::ID3v2};
+  const Names expected[] = {{u"Old artist", u"Old title", u"Yes", u"No"},
+                            {u"New artist", u"New", u"Yes", u"Yes"},
+                            {u"", u"", u"", u""}};
+  for (std::int32_t row = 1; row <= 3; ++row) {
+    for (std::size_t i = 0; i < 4; ++i) {
+      EXPECT_EQ(rows.CellText(row, columns[i]), expected[row - 1][i]) << row;
+    }
+  }
+}
+
+TEST(Preview, ReadsNoTagsInFolderMode) {
+  MemoryWorld on;
+  on.Disk.MakeFolder(u"/R/x.mp3");
+  on.World.State.ListFolders = true;
+  on.World.ListAll(u"/R/");
+  on.World.SelectSteps({u"y<FILENAME>"});
+  on.Disk.ForgetCalls();
+  on.World.PreviewAll();
+  EXPECT_EQ(on.Disk.Calls, (Names{u"StatusOf /R/x.mp3"}));
+}
+
+TEST(Preview, AnEqualProposalIsNotWrittenAgain) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.State.SetProposedCell(1, u"xa");
+  on.World.View.Notes.clear();
+  on.World.PreviewAll();
+  EXPECT_EQ(on.World.State.ProposedNames[0], u"");
+  EXPECT_FALSE(on.World.View.Has(u"cell 1,1"));
+}
+
+TEST(Preview, AStopBetweenTwoStepsKeepsTheFirst) {
+  MemoryWorld on;
+  on.ListFiles({u"a"});
+  on.World.SelectSteps({u"x<FILENAME>", u"y<FILENAME>"});
+  on.World.Loop.OnYield = [&] {
+    if (on.World.State.Status == u"Previewing, please wait..." &&
+        on.World.State.Jobs.PreviewState == JobState::Running && on.World.Loop.Yields > 1) {
+      on.World.State.Jobs.RequestStop();
+    }
+  };
+  on.World.Loop.Yields = 0;
+  on.World.PreviewAll();  // the first name test yields
+  EXPECT_EQ(on.World.Proposed(), (Names{u"xa"}));
+}
+
+// From any yield of a preview another operation can be chosen, or another folder. Whenever that
+// comes, nothing of the older preview is written behind it.
+TEST(Preview, ANewerPreviewStandsWheneverItComes) {
+  for (const bool otherFolder : {false, true}) {
+    bool reachedEnd = false;
+    for (std::size_t at = 1; !reachedEnd; ++at) {
+      SCOPED_TRACE("yield " + std::to_string(at));
+      MemoryWorld on;
+      on.Disk.Write(u"/N/only");
+      on.ListFiles({u"a", u"b", u"c"});
+      on.World.SelectSteps({u"<MID>same|||</MID>", u"<MID>other<FILENAME>|||</MID>"});
+      std::size_t yields = 0;
+      bool nested = false;
+      on.World.Loop.OnYield = [&] {
+        if (++yields == at) {
+          nested = true;
+          on.World.SelectSteps({u"y<FILENAME>"});
+          if (otherFolder) {
+            on.World.ListAll(u"/N/");
+          } else {
+            on.World.PreviewAll();
+          }
+        }
+      };
+      on.World.PreviewAll();
+      reachedEnd = !nested;
+      if (nested) {
+        ASSERT_EQ(on.World.Proposed(),
+                  otherFolder ? (Names{u"yonly"}) : (Names{u"ya", u"yb", u"yc"}));
+      }
+      ASSERT_TRUE(on.World.Report.Reports.empty());
+      ASSERT_EQ(on.World.State.Jobs.PreviewState, JobState::Idle);
+      ASSERT_LT(at, 1000U);
+    }
+  }
 }
 
 TEST(Preview, FoldersAreNotAskedWhetherTheyAreInUse) {
@@ -206,7 +318,7 @@ TEST(Preview, SetsControlsAndStatusAroundTheJob) {
   on.World.PreviewAll();
   EXPECT_EQ(on.World.View.Notes,
             (Names{u"pointer", u"control 0 disabled", u"control 0 enabled", u"control 1 disabled",
-                   u"cell 1,1", u"timer 1 stopped", u"control 1 enabled", u"pointer"}));
+                   u"cell 1,1", u"timer 0 stopped", u"control 1 enabled", u"pointer"}));
   EXPECT_EQ(on.World.View.Statuses, (Names{u"Previewing, please wait...", u"Ready"}));
   EXPECT_EQ(on.World.View.Percents, (std::vector<std::int32_t>{0, 100}));
 }
@@ -237,7 +349,7 @@ TEST(Preview, MoreThanFiftyRowsGetAnEstimateAndAPercentage) {
   ASSERT_EQ(on.World.View.Percents.size(), 53U);
   EXPECT_EQ(on.World.View.Percents[1], 1);  // 1 of 51, cut
   EXPECT_EQ(on.World.View.Percents[25], 49);
-  EXPECT_TRUE(on.World.View.Has(u"timer 1 started"));
+  EXPECT_TRUE(on.World.View.Has(u"timer 0 started"));
 }
 
 TEST(Preview, FiftyRowsGetNoEstimate) {
@@ -285,8 +397,9 @@ TEST(Preview, AFailureIsReportedAndTidiedUp) {
   EXPECT_EQ(on.World.State.Jobs.PreviewState, JobState::Idle);
   EXPECT_EQ(on.World.State.Pointer, MousePointer::Default);
   EXPECT_EQ(on.World.State.Status, u"Ready");
-  EXPECT_TRUE(on.World.View.Has(u"timer 1 stopped"));
-  EXPECT_EQ(on.World.View.Notes.back(), u"pointer");
+  EXPECT_TRUE(on.World.View.Has(u"timer 0 stopped"));
+  const Names last(on.World.View.Notes.end() - 2, on.World.View.Notes.end());
+  EXPECT_EQ(last, (Names{u"control 1 enabled", u"pointer"}));
 }
 
 TEST(Preview, NeverChangesTheDisk) {

@@ -53,6 +53,18 @@ TEST(UsedNumbers, ANumberPastTheSlotsIsAFailure) {
   EXPECT_THROW(used.Take(0), RunError);
 }
 
+TEST(UsedNumbers, TakenNumbersBehindAHoleAreSteppedOverAsOne) {
+  constexpr std::int32_t Numbers = 200'000;
+  UsedNumbers used;
+  used.Reset(Numbers + 5);
+  // The number 2 stays free; looking through all behind it each time would take minutes.
+  for (std::int32_t number = 3; number <= Numbers; ++number) {
+    ASSERT_EQ(used.NextFreeAutoNumber(2), number);
+    used.Take(number);
+  }
+  EXPECT_EQ(used.NextFreeAutoNumber(1), 2);
+}
+
 TEST(UsedNumbers, AgreesWithTheSearchThroughAllSlots) {
   std::mt19937 random(1);
   for (int round = 0; round < 200; ++round) {
@@ -60,7 +72,11 @@ TEST(UsedNumbers, AgreesWithTheSearchThroughAllSlots) {
     UsedNumbers used;
     used.Reset(size);
     std::vector<int> slots(static_cast<std::size_t>(size) + 1);
-    for (int step = 0; step < 30; ++step) {
+    for (int step = 0; step < 60; ++step) {
+      if (step == 30) {
+        used.Reset(size);
+        slots.assign(slots.size(), 0);
+      }
       const auto number = static_cast<std::int32_t>(1 + random() % static_cast<unsigned>(size));
       EXPECT_EQ(used.NextFreeAutoNumber(number), LiteralNextFree(slots, number));
       used.Take(number);

@@ -85,7 +85,12 @@ std::optional<FileIdentity> MemoryFileSystem::IdentityOf(TextView path) {
     return std::nullopt;
   }
   const auto node = tree_.Lookup(path);
-  return node ? std::optional(node->Identity) : std::nullopt;
+  if (!node) {
+    return std::nullopt;
+  }
+  FileIdentity identity = node->Identity;
+  identity.HasOneName = TellsOfOneName;
+  return identity;
 }
 
 MemoryNodePointer MemoryFileSystem::ReadableFolder(TextView folder) const {

@@ -91,6 +91,9 @@ class MemoryFileSystem final : public FileSystem {
   // Runs before each call does its work, and may change the disk or throw.
   std::function<void(const CallInfo&)> BeforeCall;
 
+  // Whether IdentityOf claims that an entry has no second name. It doesn't look.
+  bool TellsOfOneName = false;
+
   // Room for new bytes; nothing means endless. Where it doesn't suffice a write throws 61.
   std::optional<std::uint64_t> FreeBytes;
 

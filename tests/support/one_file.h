@@ -48,8 +48,9 @@ class OneFile final : public FileSystem {
     explicit Handle(OneFile& owner) : owner_(owner) {}
     std::uint64_t Size() override { return owner_.Bytes.size(); }
     std::string ReadAt(std::uint64_t position, std::size_t length) override {
-      if (length > owner_.LargestRead)
+      if (length > owner_.LargestRead) {
         throw std::bad_alloc();
+      }
       owner_.ReadUpTo = std::max(owner_.ReadUpTo, static_cast<std::size_t>(position) + length);
       return owner_.Bytes.substr(std::min<std::size_t>(position, owner_.Bytes.size()), length);
     }
