@@ -14,6 +14,10 @@ void AddPreviewCommand(CLI::App& app, ExitStatus& status);
 void AddApplyCommand(CLI::App& app, ExitStatus& status);
 void AddUndoCommand(CLI::App& app, ExitStatus& status);
 void AddEvalCommand(CLI::App& app, ExitStatus& status);
+void AddTagsCommand(CLI::App& app, ExitStatus& status);
+void AddTagWriteCommand(CLI::App& app, ExitStatus& status);
+void AddTagRemoveV1Command(CLI::App& app, ExitStatus& status);
+void AddExifCommand(CLI::App& app, ExitStatus& status);
 void AddMatchCommand(CLI::App& app, ExitStatus& status);
 
 }  // namespace vorlane

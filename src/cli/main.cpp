@@ -40,6 +40,10 @@ int main(int argc, char** argv) {
   vorlane::AddApplyCommand(app, status);
   vorlane::AddUndoCommand(app, status);
   vorlane::AddEvalCommand(app, status);
+  vorlane::AddTagsCommand(app, status);
+  vorlane::AddTagWriteCommand(app, status);
+  vorlane::AddTagRemoveV1Command(app, status);
+  vorlane::AddExifCommand(app, status);
   vorlane::AddMatchCommand(app, status);
   for (CLI::App* command : app.get_subcommands({})) {
     command->set_version_flag("--version", "vorlane-cli " VORLANE_VERSION);

@@ -56,18 +56,30 @@ void OperationArguments::Prepare(Session& session) const {
   Form& form = session.State;
   OperationKeys keys;
   LoadCodes(session, keys);
-  FillBoxes(form, keys);  // wrong ones are told of before anything is listed
-  form.Boxes = {};        // the listing would put values of its own into them
+  FillBoxes(session, keys);  // wrong ones are told of before anything is listed
+  form.Boxes = {};           // the listing would put values of its own into them
   const std::int32_t operation = form.SelectedOperation;
   Entries.List(session, keys.Wildcard.value_or(Text(u"*.*")));
   form.SelectedOperation = operation;
   form.DoAll = Only.empty();
-  FillBoxes(form, keys);
+  FillBoxes(session, keys);
 }
 
-void OperationArguments::FillBoxes(Form& form, const OperationKeys& keys) const {
+void OperationArguments::FillBoxes(Session& session, const OperationKeys& keys) const {
+  Form& form = session.State;
   ShowBoxes(form, keys);
+  const auto unclicked = form.Boxes;
+  if (!Checks.empty()) {
+    session.List.lstFileListItemClick();  // shows the values for the first row, if there is one
+  }
   TickChecks(form);
+  for (std::size_t i = 0; i < form.Boxes.size(); ++i) {
+    // A ticked box keeps the value that it showed until a text is typed over it; any other one
+    // works its own out for each row.
+    if (!form.Boxes[i].Checked) {
+      form.Boxes[i].Content = unclicked[i].Content;
+    }
+  }
   TypeBoxTexts(form);
 }
 

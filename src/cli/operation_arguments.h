@@ -39,7 +39,7 @@ struct OperationArguments {
  private:
   std::int32_t FindOperation(const OperationsTree& tree) const;
   void LoadCodes(Session& session, OperationKeys& keys) const;
-  void FillBoxes(Form& form, const OperationKeys& keys) const;
+  void FillBoxes(Session& session, const OperationKeys& keys) const;
   void ShowBoxes(Form& form, const OperationKeys& keys) const;
   void TypeBoxTexts(Form& form) const;
   void TickChecks(Form& form) const;

@@ -34,6 +34,11 @@ Text RefusalOf(const RowOutcome& outcome, bool renamed) {
                                                                : u"the system refused the name";
 }
 
+// A folder as seen from the one that the run works on; one that isn't below it stays as it is.
+Text FromFolder(const Text& folder, const Text& base) {
+  return folder.starts_with(base) ? folder.substr(base.size()) : folder;
+}
+
 }  // namespace
 
 RunPrinter::RunPrinter(Session& session, bool asJson, bool all) : session_(session), all_(all) {
@@ -97,8 +102,8 @@ void RunPrinter::PrintPlain(const RowOutcome& outcome, const Verdict& verdict) {
   }
   if (verdict.Done || all_) {
     const Text& newName = verdict.Renamed ? outcome.Proposed : outcome.Name;
-    std::cout << PrintableName(outcome.Name) << " -> "
-              << PrintableName(outcome.Steps.MovedTo + newName) << '\n';
+    const Text place = FromFolder(outcome.Steps.MovedTo, session_.State.CurrentPath);
+    std::cout << PrintableName(outcome.Name) << " -> " << PrintableName(place + newName) << '\n';
   }
 }
 

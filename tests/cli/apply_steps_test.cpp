@@ -43,12 +43,19 @@ TEST_F(CliApplySteps, AMovedRowIsPrintedWithItsDestination) {
   const Tree before = folder_.Contents();
   const ProgramResult result = Apply(SortByExtension);
   EXPECT_EQ(result.Status, 0);
-  EXPECT_EQ(result.Output, "a.txt -> " + Path("by type/.txt/a.txt") + "\n" + "b.mp3x -> " +
-                               Path("by type/.mp3x/b.mp3x") + "\n");
+  EXPECT_EQ(result.Output, "a.txt -> by type/.txt/a.txt\nb.mp3x -> by type/.mp3x/b.mp3x\n");
   EXPECT_EQ(result.Errors, "2 of 2 changed\n");
   EXPECT_EQ(folder_.Read("by type/.txt/a.txt"), "A");
   EXPECT_FALSE(folder_.Exists("a.txt"));
   ExpectUndoRestores(before);
+}
+
+TEST_F(CliApplySteps, ADestinationElsewhereIsPrintedWhole) {
+  TemporaryFolder elsewhere;
+  folder_.Write("a.txt");
+  EXPECT_EQ(Apply({"--code", "<MOVE>" + elsewhere.Path() + "</MOVE>"}).Output,
+            "a.txt -> " + elsewhere.Path() + "a.txt\n");
+  EXPECT_TRUE(elsewhere.Exists("a.txt"));
 }
 
 TEST_F(CliApplySteps, InJsonAMovedRowSaysWhereItIs) {
@@ -103,7 +110,7 @@ TEST_F(CliApplySteps, WhatWasMovedIsNotRenamedAsWell) {
   const ProgramResult result =
       Apply(With(SortByExtension, {"--code", "<UPPERCASE><NAMEONLY></UPPERCASE><EXTONLY>"}));
   EXPECT_EQ(result.Status, 1);
-  EXPECT_EQ(result.Output, "a.txt -> " + Path("by type/.txt/a.txt") + "\n");
+  EXPECT_EQ(result.Output, "a.txt -> by type/.txt/a.txt\n");
   EXPECT_EQ(result.Errors,
             "vorlane-cli: a.txt: moved, but not renamed: it had gone from its folder\n"
             "1 of 1 changed, 1 refused\n");

@@ -111,6 +111,14 @@ TEST_F(CliOperations, AFileThatIsNotThereIsStatus3) {
   EXPECT_EQ(RefusalOf(RunCli({"operations", "--catalogue", ""}), 3), "no such catalogue: ");
 }
 
+TEST_F(CliOperations, AnotherProgramFolderMayBeNamed) {
+  folder_.Write("Operations.ini", WithCrLf("Operation Name:\tMine\nStep: <FILENAME>\n\n"));
+  const ProgramResult result =
+      RunProgram(VORLANE_CLI,
+                 {.Arguments = {"operations"}, .Environment = {{"VORLANE_HOME", folder_.Path()}}});
+  EXPECT_EQ(result.Output, "1\tMine\n");
+}
+
 TEST_F(CliOperations, AProgramFolderWithoutTheFileIsStatus3) {
   const ProgramResult result =
       RunProgram(VORLANE_CLI,

@@ -186,6 +186,16 @@ TEST_F(CliPreview, ATickedBoxCountsForEveryRow) {
             (Lists{"a.txt -> xa.txt", "b.txt -> xb.txt"}));
 }
 
+// As when the user ticks the box and types nothing.
+TEST_F(CliPreview, ATickedBoxWithoutATextHoldsTheFirstRowsValue) {
+  folder_.Write("a.txt");
+  folder_.Write("b.txt");
+  EXPECT_EQ(OfOperation("Names/Checked", {"--check", "1"}),
+            (Lists{"a.txt -> A.txt", "b.txt -> (1)A.txt"}));
+  EXPECT_EQ(OfOperation("Names/Checked", {"--check", "1", "--box", "1="}),
+            (Lists{"a.txt -> .txt", "b.txt -> (1).txt"}));
+}
+
 TEST_F(CliPreview, BoxesThatTheOperationLacksAreWrongUse) {
   const auto wrong = [&](const std::string& operation, Lists more) {
     more.insert(more.begin(), {"preview", "/no such folder", "--operation", operation,

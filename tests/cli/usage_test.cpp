@@ -4,8 +4,9 @@
 namespace vorlane {
 namespace {
 
-const std::vector<std::string> Commands = {"operations", "list", "preview", "apply",
-                                           "undo",       "eval", "match"};
+const std::vector<std::string> Commands = {"operations", "list",          "preview", "apply",
+                                           "undo",       "eval",          "tags",    "match",
+                                           "tag-write",  "tag-remove-v1", "exif"};
 
 TEST(CliUsage, TheProgramAndEveryCommandHasHelp) {
   const ProgramResult whole = RunCli({"--help"});
