@@ -17,7 +17,7 @@ Text PathOfTitles(const OperationsTree& tree, const OperationNode& node) {
   Text path = node.Title;
   for (std::int32_t parent = node.Parent; parent != 0;) {
     const OperationNode& above = tree.Nodes[static_cast<std::size_t>(parent) - 1];
-    path = above.Title + u"/" + path;
+    path.insert(0, 1, u'/').insert(0, above.Title);
     parent = above.Parent;
   }
   return path;
@@ -211,7 +211,7 @@ std::vector<std::int32_t> OperationArguments::OnlyRows(const FileRows& rows) con
 }
 
 std::vector<std::int32_t> OperationArguments::PreviewOnly(Session& session) const {
-  const auto rows = OnlyRows(session.State.Rows);
+  auto rows = OnlyRows(session.State.Rows);
   for (const std::int32_t row : rows) {
     SelectRow(session, row);
     session.Previews.UpdateFilePreviewAll(false, row);
