@@ -17,10 +17,7 @@ namespace {
 class KeywordValues {
  public:
   KeywordValues(const KeywordEntry& entry, EvaluationContext& context)
-      : entry_(entry),
-        facts_(context.Facts),
-        paths_(context.Paths),
-        fullPath_(Text(entry.Path).append(entry.FileName)) {}
+      : entry_(entry), facts_(context.Facts), paths_(context.Paths) {}
 
   Text FileCreationTime() { return GeneralDate(Created().TimePart()); }
   Text FileCreationDate() { return GeneralDate(Created().DatePart()); }
@@ -28,7 +25,7 @@ class KeywordValues {
   Text FileLastModifiedDate() { return GeneralDate(Modified().DatePart()); }
 
   Text FileSize() {
-    const auto length = facts_.FileLength(fullPath_);
+    const auto length = facts_.FileLength(FullPath());
     if (!length) {
       throw RunError(ErrorNumber::FileNotFound);
     }
@@ -37,7 +34,7 @@ class KeywordValues {
 
   Text ImageMake() {
     constexpr std::int32_t makeTag = 271;
-    return facts_.ExifValue(fullPath_, makeTag);
+    return facts_.ExifValue(FullPath(), makeTag);
   }
 
   // A picture without a usable date has the empty text for both.
@@ -62,11 +59,14 @@ class KeywordValues {
 
   Text AutoNumber() { return FormatAutoNumber(entry_.AutoNumber, entry_.RowCount); }
 
-  Text FolderName() { return FolderNameOf(fullPath_, paths_); }
-  Text ParentFolderName() { return ParentFolderNameOf(fullPath_, paths_); }
-  Text ParentParentFolderName() { return ParentParentFolderNameOf(fullPath_, paths_); }
+  Text FolderName() { return FolderNameOf(FullPath(), paths_); }
+  Text ParentFolderName() { return ParentFolderNameOf(FullPath(), paths_); }
+  Text ParentParentFolderName() { return ParentParentFolderNameOf(FullPath(), paths_); }
 
  private:
+  // Few keywords ask for it, and none twice.
+  Text FullPath() const { return Text(entry_.Path).append(entry_.FileName); }
+
   DateTime Created() { return DateOfFile(WhichDate::Created, created_); }
   DateTime Modified() { return DateOfFile(WhichDate::Written, modified_); }
 
@@ -74,7 +74,7 @@ class KeywordValues {
   DateTime DateOfFile(WhichDate which, std::optional<Text>& text) {
     if (!text) {
       text.emplace();
-      text = GeneralDate(facts_.FileDate(fullPath_, which));
+      text = GeneralDate(facts_.FileDate(FullPath(), which));
     }
     const auto date = ReadDate(*text);
     if (!date) {
@@ -86,7 +86,7 @@ class KeywordValues {
   const Text& ImageDateText() {
     if (!imageDate_) {
       imageDate_.emplace();
-      Attempt([&] { imageDate_ = facts_.ImageDateOf(fullPath_); });
+      Attempt([&] { imageDate_ = facts_.ImageDateOf(FullPath()); });
     }
     return *imageDate_;
   }
@@ -94,7 +94,6 @@ class KeywordValues {
   const KeywordEntry& entry_;
   EntryFacts& facts_;
   PathStyle paths_;
-  Text fullPath_;
 
   // Each asked for once; empty if it couldn't be had.
   std::optional<Text> created_;

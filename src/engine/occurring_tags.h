@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -31,8 +32,9 @@ class TagFinder {
       const TextView rest = text.substr(at);
       std::uint32_t candidates =
           rest.size() > 1 && rest[1] < candidates_.size() ? candidates_[rest[1]] : 0;
-      for (std::size_t i = 0; candidates != 0; ++i, candidates >>= 1) {
-        if ((candidates & 1) != 0 && rest.starts_with(entries_[i].*tag_)) {
+      for (; candidates != 0; candidates &= candidates - 1) {
+        const int i = std::countr_zero(candidates);
+        if (rest.starts_with(entries_[static_cast<std::size_t>(i)].*tag_)) {
           occurring |= std::uint32_t{1} << i;
         }
       }

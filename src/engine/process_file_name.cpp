@@ -1,7 +1,10 @@
 #include "engine/process_file_name.h"
 
+#include <array>
+
 #include "engine/evaluate_tags.h"
 #include "engine/keywords.h"
+#include "engine/occurring_tags.h"
 
 namespace vorlane {
 namespace {
@@ -10,13 +13,23 @@ bool HoldsBrackets(TextView text) {
   return Contains(text, u"<") && Contains(text, u">");
 }
 
+struct StepTag {
+  TextView Tag;
+};
+
+constexpr std::array<StepTag, 3> TagStepTags = {
+    {{u"<WriteID3v1>"}, {u"<WriteID3v2>"}, {u"<RemoveID3v1>"}}};
+constexpr std::array<StepTag, 2> FolderStepTags = {{{u"<CREATEFOLDER>"}, {u"<MOVE>"}}};
+
+constexpr TagFinder TagStepFinder(TagStepTags, &StepTag::Tag);
+constexpr TagFinder FolderStepFinder(FolderStepTags, &StepTag::Tag);
+
 bool IsTagStep(TextView code) {
-  return Contains(code, u"<WriteID3v1>") || Contains(code, u"<WriteID3v2>") ||
-         Contains(code, u"<RemoveID3v1>");
+  return TagStepFinder.Occurring(code) != 0;
 }
 
 bool IsFolderStep(TextView work) {
-  return Contains(work, u"<CREATEFOLDER>") || Contains(work, u"<MOVE>");
+  return FolderStepFinder.Occurring(work) != 0;
 }
 
 // Keywords first, so that a function tag sees values only.

@@ -1,5 +1,9 @@
 #include "form/indexed_names.h"
 
+#include <algorithm>
+#include <bit>
+#include <utility>
+
 #include "platform/failure.h"
 #include "platform/letter_case.h"
 
@@ -10,18 +14,13 @@ constexpr std::uint64_t NeverRefreshed = ~std::uint64_t{0};
 }
 
 std::uint64_t IndexedNames::KeyOf(TextView name, FolderId folder) {
-  // FNV-1a over the folded units.
-  std::uint64_t hash = 14695981039346656037ULL ^ folder;
-  for (const char16_t unit : name) {
-    hash = (hash ^ UpperCase(unit)) * 1099511628211ULL;
-  }
-  return hash;
+  return HashIgnoringCase(name) ^ (std::uint64_t{folder} * 0x9E3779B97F4A7C15ULL);
 }
 
 void IndexedNames::Assign(std::vector<Text> names) {
   names_ = std::move(names);
-  folders_.clear();
-  slotsByKey_.clear();
+  chains_.clear();
+  links_.clear();
   generation_ = NeverRefreshed;
 }
 
@@ -39,38 +38,46 @@ void IndexedNames::Refresh(const FileRows& rows) {
     return;
   }
   generation_ = rows.Generation();
-  slotsByKey_.clear();
-  folders_.resize(static_cast<std::size_t>(std::min(Count(), rows.Count())));
-  slotsByKey_.reserve(folders_.size());
-  for (std::int32_t slot = 0; slot < static_cast<std::int32_t>(folders_.size()); ++slot) {
-    folders_[static_cast<std::size_t>(slot)] = rows.At(slot + 1).Folder;
+  const std::int32_t count = std::min(Count(), rows.Count());
+  links_.resize(static_cast<std::size_t>(count));
+  chains_.assign(std::bit_ceil(links_.size() + 1), NoSlot);
+  for (std::int32_t slot = 0; slot < count; ++slot) {
+    links_[static_cast<std::size_t>(slot)].Folder = rows.At(slot + 1).Folder;
     Insert(slot);
   }
 }
 
-void IndexedNames::Insert(std::int32_t slot) {
+bool IndexedNames::IsIndexed(std::int32_t slot) const {
   const auto place = static_cast<std::size_t>(slot);
-  if (place < folders_.size() && !names_[place].empty()) {
-    slotsByKey_.emplace(KeyOf(names_[place], folders_[place]), slot);
+  return place < links_.size() && !names_[place].empty();
+}
+
+void IndexedNames::Insert(std::int32_t slot) {
+  if (!IsIndexed(slot)) {
+    return;
   }
+  const auto place = static_cast<std::size_t>(slot);
+  SlotLink& link = links_[place];
+  link.Key = KeyOf(names_[place], link.Folder);
+  std::int32_t& first = chains_[link.Key & (chains_.size() - 1)];
+  link.Next = std::exchange(first, slot);
 }
 
 void IndexedNames::Remove(std::int32_t slot) {
-  const auto place = static_cast<std::size_t>(slot);
-  if (place >= folders_.size() || names_[place].empty()) {
+  if (!IsIndexed(slot)) {
     return;
   }
-  const auto [first, last] = slotsByKey_.equal_range(KeyOf(names_[place], folders_[place]));
-  const auto found =
-      std::find_if(first, last, [slot](const auto& entry) { return entry.second == slot; });
-  if (found != last) {
-    slotsByKey_.erase(found);
+  const SlotLink& link = Link(slot);
+  std::int32_t* leading = &chains_[link.Key & (chains_.size() - 1)];
+  while (*leading != slot) {
+    leading = &links_[static_cast<std::size_t>(*leading)].Next;
   }
+  *leading = link.Next;
 }
 
 bool IndexedNames::Holds(std::int32_t slot, TextView name, FolderId folder) const {
-  const auto place = static_cast<std::size_t>(slot);
-  return folders_[place] == folder && EqualIgnoringCase(names_[place], name);
+  return Link(slot).Folder == folder &&
+         EqualIgnoringCase(names_[static_cast<std::size_t>(slot)], name);
 }
 
 }  // namespace vorlane

@@ -41,6 +41,12 @@ struct EntryStatus {
   std::uint64_t Size = 0;  // bytes; 0 for anything but a regular file
 };
 
+// Whether an entry may be renamed now.
+struct EntryUse {
+  EntryStatus Status;
+  bool InUse = false;  // only looked for in a regular file that is neither hidden nor read-only
+};
+
 // Tells whether two names are the same entry.
 struct FileIdentity {
   std::uint64_t Device = 0;
@@ -124,10 +130,11 @@ class FileSystem {
   // time can't be expressed as a local date.
   virtual std::optional<FileTimes> TimesOf(TextView path) = 0;
 
-  // True if another process holds the file in a way that a rename would hurt. Linux: it is open for
-  // writing there (seen by a read lease, for the file's owner), or locked by flock or fcntl. False
-  // for a file that doesn't exist or can't be opened.
-  virtual bool IsFileInUse(TextView path) = 0;
+  // StatusOf, and whether another process holds the file in a way that a rename would hurt. Linux:
+  // it is open for writing there (seen by a read lease, for the file's owner), or locked by flock or
+  // fcntl. A file that can't be opened isn't in use. One question, since it is asked for each row of
+  // a list of files, and the file has to be opened but once to answer both.
+  virtual EntryUse UseOf(TextView path) = 0;
 
   // The whole file. Throws RunError if it can't be opened or read.
   virtual std::string ReadFileBytes(TextView path) = 0;

@@ -83,6 +83,15 @@ bool EqualIgnoringCase(TextView a, TextView b) {
   return a.size() == b.size() && CompareIgnoringCase(a, b) == 0;
 }
 
+std::uint64_t HashIgnoringCase(TextView text) {
+  // FNV-1a over the folded units.
+  std::uint64_t hash = 14695981039346656037ULL;
+  for (const char16_t unit : text) {
+    hash = (hash ^ UpperTable.Map(unit)) * 1099511628211ULL;
+  }
+  return hash;
+}
+
 int CompareIgnoringCase(TextView a, TextView b) {
   const std::size_t shared = std::min(a.size(), b.size());
   for (std::size_t i = 0; i < shared; ++i) {

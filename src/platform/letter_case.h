@@ -4,6 +4,8 @@
 // Source of the table: Simple_Uppercase_Mapping and Simple_Lowercase_Mapping of UnicodeData.txt.
 #pragma once
 
+#include <cstdint>
+
 #include "platform/text.h"
 
 namespace vorlane {
@@ -18,6 +20,9 @@ Text LowerCase(TextView text);
 Text FoldCase(TextView text);
 
 bool EqualIgnoringCase(TextView a, TextView b);
+
+// Texts that are equal without regard to case have the same. For tables in memory only.
+std::uint64_t HashIgnoringCase(TextView text);
 
 // Below 0, 0 or above 0: compares the folded texts code unit by code unit.
 int CompareIgnoringCase(TextView a, TextView b);

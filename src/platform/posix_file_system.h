@@ -7,13 +7,13 @@ namespace vorlane {
 
 // Names are bytes, exact, case-sensitive unless the mounted file system says otherwise. Every file
 // is opened O_NONBLOCK, so a pipe can't stall the program, and only after a look at its kind.
-// (IsFileInUse, asked for each row of a list of files, looks behind the opening only.)
+// (UseOf looks behind the opening only: what it is asked about was listed as a file.)
 // RenameNoReplace is renameat2(RENAME_NOREPLACE). Where the file system doesn't offer that: a file
 // by link and unlink; a folder, or where there are no hard links, by a look at the target and a
 // rename, which leaves a moment in which another program could put a file there.
 //
 // The constructor makes the whole process ignore SIGIO: that signal comes when somebody opens a
-// file for writing just while IsFileInUse looks at it, and by default it ends the process.
+// file for writing just while UseOf looks at it, and by default it ends the process.
 class PosixFileSystem : public FileSystem {
  public:
   PosixFileSystem();
@@ -25,7 +25,7 @@ class PosixFileSystem : public FileSystem {
   std::vector<FolderEntry> ListFolder(TextView folder) override;
   std::vector<Text> ListNames(TextView folder) override;
   std::optional<FileTimes> TimesOf(TextView path) override;
-  bool IsFileInUse(TextView path) override;
+  EntryUse UseOf(TextView path) override;
   std::string ReadFileBytes(TextView path) override;
   std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) override;
   RenameOutcome RenameNoReplace(TextView from, TextView to) override;

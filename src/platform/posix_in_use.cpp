@@ -9,6 +9,7 @@
 #include "platform/file_name_bytes.h"
 #include "platform/posix_file_system.h"
 #include "platform/posix_handle.h"
+#include "platform/posix_status.h"
 
 namespace vorlane {
 
@@ -31,26 +32,29 @@ bool IsOpenForWriting(int descriptor) {
   return fcntl(descriptor, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN;
 }
 
-bool IsRegularFile(int descriptor) {
-  struct stat status {};
-  return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+// Closing the descriptor gives back what these take. The lease comes last, since a writer who comes
+// by has to wait as long as we have it.
+bool IsHeldByOthers(int descriptor) {
+  return HasFlockLock(descriptor) || HasFcntlLock(descriptor) || IsOpenForWriting(descriptor);
 }
 
 }  // namespace
 
-bool PosixFileSystem::IsFileInUse(TextView path) {
+EntryUse PosixFileSystem::UseOf(TextView path) {
   const auto bytes = BytesFromText(path);
-  if (!bytes) {
-    return false;
+  if (!bytes || IsHiddenPath(path)) {
+    return {StatusOf(path)};
   }
-  const FileHandle file(open(bytes->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (!file.IsOpen() || !IsRegularFile(file.Descriptor())) {
-    return false;
+  const FileHandle entry(open(bytes->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  struct stat status {};
+  if (!entry.IsOpen() || fstat(entry.Descriptor(), &status) != 0) {
+    return {StatusOf(path)};
   }
-  // Closing the descriptor gives back what these take. The lease comes last, since a writer who
-  // comes by has to wait as long as we have it.
-  return HasFlockLock(file.Descriptor()) || HasFcntlLock(file.Descriptor()) ||
-         IsOpenForWriting(file.Descriptor());
+  EntryUse use{MakePresence(status, false)};
+  use.Status.ReadOnly = IsOpenedReadOnly(entry.Descriptor(), bytes->c_str(), status);
+  use.InUse = use.Status.Kind == EntryKind::File && !use.Status.ReadOnly &&
+              IsHeldByOthers(entry.Descriptor());
+  return use;
 }
 
 }  // namespace vorlane

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 namespace vorlane {
 
 namespace {
@@ -12,6 +14,11 @@ EntryKind KindOf(mode_t mode) {
     return EntryKind::File;
   }
   return S_ISDIR(mode) ? EntryKind::Folder : EntryKind::Other;
+}
+
+// Asked besides the access test, which lets the superuser through whatever the mode says.
+bool NobodyMayWrite(const struct stat& status) {
+  return (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
 }
 
 }  // namespace
@@ -35,9 +42,15 @@ EntryStatus MakePresence(const struct stat& status, bool hidden) {
 }
 
 bool IsReadOnly(int folder, const char* name, const struct stat& status) {
-  // The mode is asked too, because the access test lets the superuser through whatever it says.
-  const bool nobodyMayWrite = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
-  return nobodyMayWrite || faccessat(folder, name, W_OK, AT_EACCESS) != 0;
+  return NobodyMayWrite(status) || faccessat(folder, name, W_OK, AT_EACCESS) != 0;
+}
+
+bool IsOpenedReadOnly(int descriptor, const char* path, const struct stat& status) {
+  if (NobodyMayWrite(status)) {
+    return true;
+  }
+  const bool refused = faccessat(descriptor, "", W_OK, AT_EACCESS | AT_EMPTY_PATH) != 0;
+  return refused && (errno != EINVAL || IsReadOnly(AT_FDCWD, path, status));
 }
 
 FileIdentity MakeIdentity(const struct stat& status) {

@@ -16,6 +16,9 @@ EntryStatus MakePresence(const struct stat& status, bool hidden);
 // `name` is relative to the open folder `folder`, or a whole path with AT_FDCWD.
 bool IsReadOnly(int folder, const char* name, const struct stat& status);
 
+// The same of an open entry. Its path is for systems that can't be asked about a descriptor.
+bool IsOpenedReadOnly(int descriptor, const char* path, const struct stat& status);
+
 FileIdentity MakeIdentity(const struct stat& status);
 
 }  // namespace vorlane

@@ -12,6 +12,23 @@ namespace {
 constexpr TextView PreviewText = u"Previewing, please wait...";
 constexpr TextView AutoNumberKeyword = u"<AUTONUMBER>";
 
+bool IsUnfit(char16_t character) {
+  switch (character) {
+    case u'\\':
+    case u'/':
+    case u':':
+    case u'*':
+    case u'?':
+    case u'"':
+    case u'<':
+    case u'>':
+    case u'|':
+      return true;
+    default:
+      return false;
+  }
+}
+
 // Cuts the marker off the end of a formula; true if it was there.
 bool TakeMarker(TextView& formula, TextView marker) {
   if (!formula.ends_with(marker)) {
@@ -136,7 +153,9 @@ bool Preview::IsOutdated(const RowInHand& in) const {
 void Preview::PreviewRow(Pass& pass, std::int32_t row) {
   const RowInHand in = TakeRow(row);
   const Text fullPath = in.Path + in.Name;
-  const EntryStatus status = services_.Files.StatusOf(fullPath);
+  const EntryUse use = form_.ListFolders ? EntryUse{services_.Files.StatusOf(fullPath)}
+                                         : services_.Files.UseOf(fullPath);
+  const EntryStatus& status = use.Status;
   const bool exists = status.Kind == EntryKind::File || status.Kind == EntryKind::Folder;
   if (!exists || status.Hidden) {
     return;
@@ -145,14 +164,12 @@ void Preview::PreviewRow(Pass& pass, std::int32_t row) {
     form_.SetProposedCell(row, u"<Read Only>");
     return;
   }
-  if (!form_.ListFolders) {
-    if (services_.Files.IsFileInUse(fullPath)) {
-      form_.SetProposedCell(row, u"<File in Use>");
-      return;
-    }
-    if (HasMp3Extension(in.Name)) {
-      pass.Tags = ReadRowTags(form_, services_, row);
-    }
+  if (use.InUse) {
+    form_.SetProposedCell(row, u"<File in Use>");
+    return;
+  }
+  if (!form_.ListFolders && HasMp3Extension(in.Name)) {
+    pass.Tags = ReadRowTags(form_, services_, row);
   }
   {
     const QuietBoxes quiet(form_);
@@ -285,12 +302,7 @@ Text Preview::Evaluate(TextView code, const RowInHand& in, std::int32_t number, 
 
 Text CleanFileName(TextView text) {
   Text cleaned = ReplaceUnpairedSurrogates(Trim(text));
-  constexpr TextView unfit = u"\\/:*?\"<>|";
-  for (char16_t& character : cleaned) {
-    if (Contains(unfit, TextView(&character, 1))) {
-      character = u'_';
-    }
-  }
+  std::replace_if(cleaned.begin(), cleaned.end(), IsUnfit, u'_');
   return cleaned;
 }
 

@@ -316,24 +316,46 @@ TEST_P(FileSystemContract, OnlyFilesHaveTimes) {
 
 TEST_P(FileSystemContract, WhoeverWritesHoldsTheFile) {
   disk_->Write(u"file", "content");
-  EXPECT_FALSE(files_.IsFileInUse(P(u"file")));
+  EXPECT_FALSE(files_.UseOf(P(u"file")).InUse);
   {
     const auto reader = files_.Open(P(u"file"), OpenMode::Read);
-    EXPECT_FALSE(files_.IsFileInUse(P(u"file")));
+    EXPECT_FALSE(files_.UseOf(P(u"file")).InUse);
     const auto writer = files_.Open(P(u"file"), OpenMode::ReadWrite);
-    EXPECT_TRUE(files_.IsFileInUse(P(u"file")));
+    EXPECT_TRUE(files_.UseOf(P(u"file")).InUse);
   }
-  EXPECT_FALSE(files_.IsFileInUse(P(u"file")));
+  EXPECT_FALSE(files_.UseOf(P(u"file")).InUse);
 }
 
-TEST_P(FileSystemContract, WhatIsNoFileIsntInUse) {
+TEST_P(FileSystemContract, UseTellsTheStatusToo) {
   MakeOneOfEach();
-  for (const TextView name : {u"folder", u"dangling", u"other", u"missing", u""}) {
-    EXPECT_FALSE(files_.IsFileInUse(P(name)));
+  disk_->Write(u"read-only");
+  disk_->MakeFolder(u"read-only folder");
+  disk_->SetReadOnly(u"read-only");
+  disk_->SetReadOnly(u"read-only folder");
+  std::vector<Text> names(std::begin(EachKind), std::end(EachKind));
+  names.insert(names.end(), std::begin(ImpossibleNames), std::end(ImpossibleNames));
+  names.insert(names.end(), {u"read-only", u"read-only folder", u"missing", u"file/", u".", u".."});
+  for (const Text& name : names) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    const auto use = files_.UseOf(P(name));
+    const auto status = files_.StatusOf(P(name));
+    EXPECT_EQ(use.Status.Kind, status.Kind);
+    EXPECT_EQ(use.Status.Hidden, status.Hidden);
+    EXPECT_EQ(use.Status.ReadOnly, status.ReadOnly);
+    EXPECT_EQ(use.Status.Size, status.Size);
+    EXPECT_FALSE(use.InUse);
   }
-  for (const Text& name : ImpossibleNames) {
-    EXPECT_FALSE(files_.IsFileInUse(P(name)));
-  }
+  EXPECT_EQ(files_.UseOf(u"").Status.Kind, EntryKind::None);
+}
+
+TEST_P(FileSystemContract, UseIsntLookedForInHiddenAndReadOnlyFiles) {
+  disk_->Write(u".hidden");
+  disk_->Write(u"read-only");
+  const auto hidden = files_.Open(P(u".hidden"), OpenMode::ReadWrite);
+  const auto readOnly = files_.Open(P(u"read-only"), OpenMode::ReadWrite);
+  disk_->SetReadOnly(u"read-only");
+  EXPECT_FALSE(files_.UseOf(P(u".hidden")).InUse);
+  EXPECT_FALSE(files_.UseOf(P(u"read-only")).InUse);
 }
 
 TEST_P(FileSystemContract, ReadsAllBytes) {

@@ -81,6 +81,7 @@ TEST(LetterCase, NamesAreComparedWithoutRegardToCase) {
     EXPECT_EQ(CompareIgnoringCase(c.a, c.b), c.result);
     EXPECT_EQ(CompareIgnoringCase(c.b, c.a), -c.result);
     EXPECT_EQ(EqualIgnoringCase(c.a, c.b), c.result == 0);
+    EXPECT_EQ(HashIgnoringCase(c.a) == HashIgnoringCase(c.b), c.result == 0);
   }
 }
 

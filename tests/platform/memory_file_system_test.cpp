@@ -90,7 +90,7 @@ TEST(MemoryFileSystem, SettablePropertiesShow) {
   EXPECT_EQ(files.TimesOf(u"/m/a")->Written, times.Written);
   EXPECT_EQ(files.TimesOf(u"/m/a")->Accessed, times.Accessed);
   files.SetInUse(u"/m/a");
-  EXPECT_TRUE(files.IsFileInUse(u"/m/a"));
+  EXPECT_TRUE(files.UseOf(u"/m/a").InUse);
   files.SetReportedSize(u"/m/a", 1ULL << 40);
   EXPECT_EQ(files.StatusOf(u"/m/a").Size, 1ULL << 40);
   files.SetReadOnly(u"/m/a");
@@ -101,7 +101,8 @@ TEST(MemoryFileSystem, SettablePropertiesShow) {
   EXPECT_EQ(FailureOf([&] { files.Open(u"/m/a", OpenMode::Read); }), 70);
   EXPECT_EQ(FailureOf([&] { files.ReadFileBytes(u"/m/a"); }), 70);
   EXPECT_FALSE(files.TimesOf(u"/m/a").has_value());
-  EXPECT_FALSE(files.IsFileInUse(u"/m/a"));
+  files.SetReadOnly(u"/m/a", false);
+  EXPECT_FALSE(files.UseOf(u"/m/a").InUse);
   files.SetUnreadable(u"/m");
   EXPECT_EQ(FailureOf([&] { files.ListFolder(u"/m/"); }), 76);
 }
@@ -163,7 +164,8 @@ TEST(MemoryFileSystem, EveryCallCanFailAndThenChangesNothing) {
   EXPECT_FALSE(files.IdentityOf(u"/a").has_value());
   EXPECT_FALSE(files.TimesOf(u"/a").has_value());
   files.SetInUse(u"/a");
-  EXPECT_FALSE(files.IsFileInUse(u"/a"));
+  EXPECT_EQ(files.UseOf(u"/a").Status.Kind, EntryKind::None);
+  EXPECT_FALSE(files.UseOf(u"/a").InUse);
   EXPECT_EQ(FailureOf([&] { files.ListFolder(u"/"); }), 76);
   EXPECT_EQ(FailureOf([&] { files.ListNames(u"/"); }), 76);
   EXPECT_EQ(FailureOf([&] { files.ReadFileBytes(u"/a"); }), 57);

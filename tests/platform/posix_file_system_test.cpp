@@ -181,8 +181,10 @@ TEST(PosixFileSystem, ReadOnlyIsAlsoWhatOnlyOthersMayWrite) {
     struct stat status {};
     ASSERT_EQ(stat("/etc/passwd", &status), 0);
     ASSERT_NE(status.st_mode & S_IWUSR, 0U);
-    EXPECT_TRUE(PosixFileSystem().StatusOf(u"/etc/passwd").ReadOnly);
-    EXPECT_TRUE(PosixFileSystem().StatusOf(u"/etc").ReadOnly);
+    for (const TextView path : {u"/etc/passwd", u"/etc"}) {
+      EXPECT_TRUE(PosixFileSystem().StatusOf(path).ReadOnly);
+      EXPECT_TRUE(PosixFileSystem().UseOf(path).Status.ReadOnly);
+    }
   });
 }
 

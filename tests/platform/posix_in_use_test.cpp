@@ -18,7 +18,7 @@ class PosixInUse : public testing::Test {
   PosixInUse() { folder_.Write("file", "content"); }
 
   bool IsInUse(const std::string& name = "file") {
-    return files_.IsFileInUse(AsciiText(folder_.Path() + name));
+    return files_.UseOf(AsciiText(folder_.Path() + name)).InUse;
   }
 
   TemporaryFolder folder_;
@@ -111,8 +111,11 @@ TEST_F(PosixInUse, AFileThatCantBeOpenedIsnt) {
     folder.Write("file", "content");
     const std::string path = folder.Path() + "file";
     const int writer = open(path.c_str(), O_WRONLY);
-    ASSERT_EQ(chmod(path.c_str(), 0), 0);
-    EXPECT_FALSE(PosixFileSystem().IsFileInUse(AsciiText(path)));
+    ASSERT_EQ(chmod(path.c_str(), 0200), 0);
+    const auto use = PosixFileSystem().UseOf(AsciiText(path));
+    EXPECT_EQ(use.Status.Kind, EntryKind::File);
+    EXPECT_FALSE(use.Status.ReadOnly);
+    EXPECT_FALSE(use.InUse);
     close(writer);
   });
 }
@@ -123,6 +126,7 @@ TEST_F(PosixInUse, InAnothersFileOnlyLocksAreSeen) {
     GTEST_SKIP() << "needs files of two users";
   }
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0755), 0);
+  ASSERT_EQ(chmod(path_.c_str(), 0666), 0);
   const OtherProcess writer([&] { return open(path_.c_str(), O_WRONLY) >= 0; });
   AsOrdinaryUser([&] { EXPECT_FALSE(IsInUse()); });
   const OtherProcess holder([&] { return flock(open(path_.c_str(), O_RDONLY), LOCK_EX) == 0; });

@@ -139,13 +139,17 @@ std::optional<FileTimes> MemoryFileSystem::TimesOf(TextView path) {
   return node->Times;
 }
 
-bool MemoryFileSystem::IsFileInUse(TextView path) {
-  if (!Query(u"IsFileInUse", path)) {
-    return false;
+EntryUse MemoryFileSystem::UseOf(TextView path) {
+  if (!Query(u"UseOf", path)) {
+    return {};
   }
-  const auto node = tree_.Resolve(path);
-  return node && node->Kind == MemoryKind::File && !node->Unreadable &&
-         (node->InUse || node->Writers > 0);
+  const auto spot = tree_.Locate(path);
+  const auto node = spot ? tree_.Resolve(path) : nullptr;
+  EntryUse use{node ? StatusFor(node.get(), spot->Name) : EntryStatus()};
+  const EntryStatus& status = use.Status;
+  use.InUse = status.Kind == EntryKind::File && !status.Hidden && !status.ReadOnly &&
+              !node->Unreadable && (node->InUse || node->Writers > 0);
+  return use;
 }
 
 // Bytes.

@@ -33,7 +33,7 @@ class OneFile final : public FileSystem {
   std::vector<FolderEntry> ListFolder(TextView) override { throw std::logic_error("ListFolder"); }
   std::vector<Text> ListNames(TextView) override { throw std::logic_error("ListNames"); }
   std::optional<FileTimes> TimesOf(TextView) override { throw std::logic_error("TimesOf"); }
-  bool IsFileInUse(TextView) override { throw std::logic_error("IsFileInUse"); }
+  EntryUse UseOf(TextView) override { throw std::logic_error("UseOf"); }
   std::string ReadFileBytes(TextView) override { throw std::logic_error("ReadFileBytes"); }
   RenameOutcome RenameNoReplace(TextView, TextView) override { throw std::logic_error("Rename"); }
   bool CreateFolder(TextView) override { throw std::logic_error("CreateFolder"); }
