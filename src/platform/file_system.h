@@ -131,9 +131,9 @@ class FileSystem {
   virtual std::optional<FileTimes> TimesOf(TextView path) = 0;
 
   // StatusOf, and whether another process holds the file in a way that a rename would hurt. Linux:
-  // it is open for writing there (seen by a read lease, for the file's owner), or locked by flock or
-  // fcntl. A file that can't be opened isn't in use. One question, since it is asked for each row of
-  // a list of files, and the file has to be opened but once to answer both.
+  // it is open for writing there (seen by a read lease, for the file's owner), or locked by flock
+  // or fcntl. A file that can't be opened isn't in use. One question, since it is asked for each
+  // row of a list of files, and the file has to be opened but once to answer both.
   virtual EntryUse UseOf(TextView path) = 0;
 
   // The whole file. Throws RunError if it can't be opened or read.

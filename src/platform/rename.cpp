@@ -38,7 +38,8 @@ Text RenameToFreshName(FileSystem& files, const Text& folder, TextView oldName) 
   // found and known again. A long name leaves no room for that.
   Text tail = u" " + Text(oldName);
   for (int attempt = 1; attempt <= MostAttempts; ++attempt) {
-    Text to = folder + u"vorlane-renaming-" + DecimalText(attempt) + tail;
+    Text to = folder;
+    to.append(u"vorlane-renaming-").append(DecimalText(attempt)).append(tail);
     const auto outcome = files.RenameNoReplace(from, to);
     if (outcome == RenameOutcome::Done) {
       return to;

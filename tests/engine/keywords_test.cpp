@@ -237,7 +237,7 @@ TEST(FileKeywords, AReplacementThatWouldGrowTooLongLeavesItsKeyword) {
     many += u"<FILENAME>";
   }
   entry.Facts.Make = many;
-  entry.FileName = Text(1'000, u'a');
+  entry.FileName.assign(1'000, u'a');
   EXPECT_EQ(entry(u"<IMAGEMAKE>"), many);
 }
 
