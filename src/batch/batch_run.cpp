@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "form/status_texts.h"
 #include "metadata/tag_reading.h"
 
 namespace vorlane {
@@ -35,7 +36,7 @@ void BatchRun::cmdGo_Click(JournalStart start) {
   form_.SetPointer(MousePointer::Default);
   form_.Jobs.BatchState = JobState::Idle;
   form_.UnlockControls();
-  form_.SetStatus(u"Ready - " + TimeTaken(), 100);
+  form_.SetStatus(ReadyAfterText(SecondsTaken()), 100);
 }
 
 void BatchRun::RunRows() {
@@ -58,7 +59,8 @@ void BatchRun::RunRows() {
     if (!form_.DoAll && !FindRowToRun(row, fallback, rowsPerPage)) {
       break;
     }
-    form_.SetStatus(TimeTaken(), static_cast<int>(std::int64_t{row} * 100 / count));
+    form_.SetStatus(TimeTakenText(SecondsTaken()),
+                    static_cast<int>(std::int64_t{row} * 100 / count));
     if (!form_.DoAll && form_.Rows.Selected() != row) {
       // A marked row that isn't selected is tried again until it is, or until Stop.
       services_.Loop.YieldBlocking(fallback ? 0 : 20);
@@ -136,7 +138,7 @@ void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
   outcome.Steps = steps_.Run(row, tagV1_, tagV2_);
   if (form_.DoAll && !IsListReplaced()) {
     preview_.UpdateBoxValues(row, tagV1_, tagV2_, true, false);
-  } else if (!form_.DoAll && form_.Rows.At(row).Proposed == u"<File in Use>") {
+  } else if (!form_.DoAll && form_.Rows.At(row).Proposed == FileInUseMarker()) {
     preview_.UpdateFilePreviewAll(false, row);  // it may be free by now
   }
   if (!IsListReplaced()) {
@@ -196,9 +198,8 @@ void BatchRun::FinishJournal() {
   form_.EnableUndo(journal_.IsOpen() && HiddenFileExists(services_.Files, journal));
 }
 
-Text BatchRun::TimeTaken() const {
-  const auto seconds = (services_.Time.Milliseconds() - start_) / 1000;
-  return u"Time taken: " + FormatElapsed(static_cast<std::int32_t>(seconds));
+std::int32_t BatchRun::SecondsTaken() const {
+  return static_cast<std::int32_t>((services_.Time.Milliseconds() - start_) / 1000);
 }
 
 }  // namespace vorlane

@@ -65,7 +65,7 @@ class BatchRun {
   void RenameRow(std::int32_t row, const Text& path, RowOutcome& outcome);
   void FinishOneMode();
   void FinishJournal();
-  Text TimeTaken() const;
+  std::int32_t SecondsTaken() const;
 
   Form& form_;
   Services& services_;

@@ -6,6 +6,7 @@
 #include "metadata/tag_text.h"
 #include "metadata/tag_writing.h"
 #include "platform/code_page.h"
+#include "platform/interface_texts.h"
 #include "platform/numbers.h"
 
 namespace vorlane {
@@ -49,7 +50,7 @@ void UndoRun::cmdUndo_Click() {
     services_.Files.RemoveFile(JournalPath(folder_));
   }
   list_.PathChangedEvent();
-  form_.SetStatusText(u"Undo complete");
+  form_.SetStatusText(InterfaceText(TextNumber::UndoComplete));
   form_.SetPointer(MousePointer::Default);
 }
 

@@ -15,10 +15,10 @@ Text RefusalOf(const RowOutcome& outcome, bool renamed) {
     return u"not moved: no such folder, or the name is taken there";
   }
   // A marker bars the new name only; the steps have done their work.
-  if (!steps.Changed && outcome.Proposed == u"<Read Only>") {
+  if (!steps.Changed && outcome.Proposed == ReadOnlyMarker()) {
     return u"read only";
   }
-  if (!steps.Changed && outcome.Proposed == u"<File in Use>") {
+  if (!steps.Changed && outcome.Proposed == FileInUseMarker()) {
     return u"in use";
   }
   if (!outcome.RenameTried || renamed) {

@@ -4,6 +4,7 @@
 
 #include "metadata/exif.h"
 #include "metadata/tag_reading.h"
+#include "platform/interface_texts.h"
 
 namespace vorlane {
 
@@ -30,7 +31,7 @@ DateTime DiskFacts::FileDate(TextView path, WhichDate which) {
         return times->Accessed;
     }
   } catch (const RunError& error) {
-    Text message = u"Error number ";
+    Text message(InterfaceText(TextNumber::ErrorNumberOfDate));
     message.append(DecimalText(error.Number())).append(u"\r\n").append(error.Description());
     boxes_.Show(BoxIcon::None, u"", message);
   }

@@ -1,6 +1,8 @@
 #include "filelist/file_list.h"
 
 #include "filelist/wildcard.h"
+#include "form/status_texts.h"
+#include "platform/interface_texts.h"
 #include "preview/row_tags.h"
 
 namespace vorlane {
@@ -118,7 +120,7 @@ void FileList::ListFolderContents(std::uint64_t listing, const ListingInputs& in
     return;
   }
   form_.CurrentNames.Assign({Text()});
-  Attempt([&] { form_.SetStatus(u"Checking attributes and collecting files/folders...", 33); });
+  Attempt([&] { form_.SetStatus(InterfaceText(TextNumber::CollectingFiles), 33); });
   if (listing != listing_) {
     return;
   }
@@ -138,8 +140,7 @@ void FileList::ListFolderContents(std::uint64_t listing, const ListingInputs& in
   if (listing != listing_) {
     return;
   }
-  form_.SetStatus(u"Ready - Time taken: " + FormatElapsed(SecondsSince(start, services_.Time)),
-                  100);
+  form_.SetStatus(ReadyAfterText(SecondsSince(start, services_.Time)), 100);
 }
 
 void FileList::AddRows(std::uint64_t listing, std::vector<FoundEntry>& found,
@@ -166,7 +167,7 @@ void FileList::AddRows(std::uint64_t listing, std::vector<FoundEntry>& found,
     } else {
       form_.CurrentNames.Set(i, u"");
     }
-    form_.SetStatus(u"Adding files, please wait...",
+    form_.SetStatus(InterfaceText(TextNumber::AddingFiles),
                     static_cast<int>(std::int64_t{i + 1} * 100 / count));
   }
 }

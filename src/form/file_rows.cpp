@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/failure.h"
+#include "platform/interface_texts.h"
 #include "platform/letter_case.h"
 
 namespace vorlane {
@@ -10,13 +11,29 @@ namespace vorlane {
 TextView TextOf(YesNo answer) {
   switch (answer) {
     case YesNo::Yes:
-      return u"Yes";
+      return InterfaceText(TextNumber::Yes);
     case YesNo::No:
-      return u"No";
+      return InterfaceText(TextNumber::No);
     case YesNo::Unknown:
       break;
   }
   return u"";
+}
+
+namespace {
+
+Text MarkerOf(int textNumber) {
+  return Text(u"<").append(InterfaceText(textNumber)).append(u">");
+}
+
+}  // namespace
+
+Text ReadOnlyMarker() {
+  return MarkerOf(TextNumber::ReadOnly);
+}
+
+Text FileInUseMarker() {
+  return MarkerOf(TextNumber::FileInUse);
 }
 
 FileRow& FileRows::At(std::int32_t row) {

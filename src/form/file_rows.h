@@ -27,6 +27,10 @@ enum class YesNo : std::uint8_t { Unknown, No, Yes };
 
 TextView TextOf(YesNo answer);
 
+// What column 1 shows in the place of a name: "<Read Only>" and "<File in Use>".
+Text ReadOnlyMarker();
+Text FileInUseMarker();
+
 // Stands for one folder text of a list; equal ids mean equal texts.
 using FolderId = std::uint32_t;
 

@@ -1,6 +1,7 @@
 #include "form/form.h"
 
 #include "platform/failure.h"
+#include "platform/interface_texts.h"
 
 namespace vorlane {
 
@@ -34,7 +35,8 @@ void Form::HoldStatus(TextView text) {
 }
 
 void Form::SetListCounter(std::int32_t count) {
-  HeldFileStatus = DecimalText(count) + (ListFolders ? u" Folder(s)" : u" File(s)");
+  HeldFileStatus = DecimalText(count).append(
+      InterfaceText(ListFolders ? TextNumber::Folders : TextNumber::Files));
   StartTimer(FormTimer::FileStatus);
 }
 

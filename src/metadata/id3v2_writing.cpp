@@ -8,6 +8,7 @@
 #include "metadata/in_place.h"
 #include "metadata/tag_reading.h"
 #include "metadata/tag_writing.h"
+#include "platform/interface_texts.h"
 
 namespace vorlane {
 
@@ -90,6 +91,8 @@ class ID3v2Change {
   }
 
  private:
+  void Show(int textNumber, int percent) { status_.SetStatus(InterfaceText(textNumber), percent); }
+
   std::uint64_t BytesToDrop() {
     return removeID3v1_ && ReadID3v1(files_, report_, path_).Present ? ID3v1Length : 0;
   }
@@ -100,19 +103,16 @@ class ID3v2Change {
     const bool grown = newTag.size() > oldTag.size();
     const std::uint64_t dropped = BytesToDrop();
     if (dropped > 0) {
-      status_.SetStatus(u"ID3v2 exists, ID3v1 exists, loading file...", 33);
+      Show(TextNumber::V2AndV1Loading, 33);
     } else if (grown) {
-      status_.SetStatus(
-          u"ID3v2 exists but is too small, incresing size of ID3v2, ID3v1 kept or does not exist, "
-          u"rewriting file...",
-          50);
+      Show(TextNumber::V2TooSmallRewriting, 50);
     } else {
-      status_.SetStatus(u"ID3v2 exists, ID3v1 kept or does not exist, updating file...", 50);
+      Show(TextNumber::V2Updating, 50);
     }
     const InPlaceChange change = grown ? MoveRest(file, newTag, oldTag.size(), dropped)
                                        : ExchangeStart(file, oldTag, newTag, dropped);
     if (dropped > 0) {
-      status_.SetStatus(u"ID3v2 exists, ID3v1 removed, rewriting file...", 66);
+      Show(TextNumber::V2WithoutV1Rewriting, 66);
     }
     ChangeInPlace(file, change);
   }
@@ -120,15 +120,9 @@ class ID3v2Change {
   void Add(OpenFile& file) {
     const std::string newTag = NewID3v2(tag_);
     const std::uint64_t dropped = BytesToDrop();
-    status_.SetStatus(dropped > 0
-                          ? u"ID3v2 does not exist, ID3v1 exists, loading file..."
-                          : u"ID3v2 does not exist, ID3v1 kept or does not exist, loading file...",
-                      33);
+    Show(dropped > 0 ? TextNumber::NoV2ButV1Loading : TextNumber::NoV2Loading, 33);
     const InPlaceChange change = MoveRest(file, newTag, 0, dropped);
-    status_.SetStatus(
-        dropped > 0 ? u"ID3v2 does not exist, ID3v1 removed, rewriting file..."
-                    : u"ID3v2 does not exist, ID3v1 kept or does not exist, rewriting file...",
-        66);
+    Show(dropped > 0 ? TextNumber::NoV2WithoutV1Rewriting : TextNumber::NoV2Rewriting, 66);
     ChangeInPlace(file, change);
   }
 
@@ -150,7 +144,7 @@ void WriteID3v2OrFail(FileSystem& files, FailureReport& report, StatusLine& stat
     // The whole file must fit in memory. It is read before anything is written.
     throw RunError(ErrorNumber::OutOfMemory);
   }
-  status.SetStatus(u"Ready", 100);
+  status.SetStatus(InterfaceText(TextNumber::Ready), 100);
 }
 
 void WriteID3v2(const ID3v2Services& services, TextView path, const ID3Tag& tag, bool removeID3v1) {
@@ -159,10 +153,11 @@ void WriteID3v2(const ID3v2Services& services, TextView path, const ID3Tag& tag,
   } catch (const RunError& error) {
     Text message = error.Description();
     if (error.Number() == static_cast<int>(ErrorNumber::InvalidArgument)) {
-      message += u"\n\nThe ID3 Tag is probably invalid";
+      message.append(u"\n\n").append(InterfaceText(TextNumber::TagProbablyInvalid));
     }
-    services.Boxes.Show(BoxIcon::Exclamation, u"Error number: " + DecimalText(error.Number()),
-                        message);
+    const Text title =
+        Text(InterfaceText(TextNumber::ErrorNumber)).append(DecimalText(error.Number()));
+    services.Boxes.Show(BoxIcon::Exclamation, title, message);
   }
 }
 

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "platform/file_name_bytes.h"
+#include "platform/interface_texts.h"
 #include "platform/letter_case.h"
 
 namespace vorlane {
 
 namespace {
 
-constexpr TextView PreviewText = u"Previewing, please wait...";
 constexpr TextView AutoNumberKeyword = u"<AUTONUMBER>";
 
 bool IsUnfit(char16_t character) {
@@ -48,7 +48,7 @@ void Preview::UpdateFilePreviewAll(bool all, std::int32_t row) {
     form_.Jobs.PreviewState = JobState::Idle;
     EnableBrowser();
     form_.SetPointer(MousePointer::Default);
-    form_.SetStatusText(u"Ready");
+    form_.SetStatusText(InterfaceText(TextNumber::Ready));
   }
 }
 
@@ -77,7 +77,7 @@ void Preview::RunPass(bool all, std::int32_t row) {
   Pass pass;
   pass.Code = form_.SelectedCode();
   pass.UsesAutoNumber = BoxesUseAutoNumber();
-  form_.SetStatus(PreviewText, 0);
+  form_.SetStatus(InterfaceText(TextNumber::Previewing), 0);
   const RowRange rows = RowsToDo(all, row);
   if (pass.UsesAutoNumber) {
     pass.NumberUsed.Reset(form_.CurrentNames.Count());
@@ -108,7 +108,9 @@ void Preview::ShowProgress(TimeEstimate& estimate, RowRange rows, std::int32_t r
   }
   const std::int32_t seconds = estimate.SecondsLeft(row, duration);
   if (seconds >= 0) {
-    form_.HoldStatus(Text(PreviewText) + u" Estimated Time Remaining: " + FormatElapsed(seconds));
+    Text status(InterfaceText(TextNumber::Previewing));
+    status.append(u" ").append(InterfaceText(TextNumber::TimeRemaining));
+    form_.HoldStatus(status.append(FormatElapsed(seconds)));
     form_.SetProgress(static_cast<std::int32_t>(std::int64_t{row - rows.First + 1} * 100 /
                                                 (rows.Last - rows.First + 1)));
   }
@@ -137,7 +139,7 @@ void Preview::FinishPass() {
   if (form_.Pointer == MousePointer::ArrowHourglass) {
     form_.SetPointer(MousePointer::Default);
   }
-  form_.SetStatusText(u"Ready");
+  form_.SetStatusText(InterfaceText(TextNumber::Ready));
 }
 
 Preview::RowInHand Preview::TakeRow(std::int32_t row) const {
@@ -161,11 +163,11 @@ void Preview::PreviewRow(Pass& pass, std::int32_t row) {
     return;
   }
   if (status.ReadOnly) {
-    form_.SetProposedCell(row, u"<Read Only>");
+    form_.SetProposedCell(row, ReadOnlyMarker());
     return;
   }
   if (use.InUse) {
-    form_.SetProposedCell(row, u"<File in Use>");
+    form_.SetProposedCell(row, FileInUseMarker());
     return;
   }
   if (!form_.ListFolders && HasMp3Extension(in.Name)) {
