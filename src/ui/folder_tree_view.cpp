@@ -47,7 +47,6 @@ void FolderTreeView::ShowFolder(const Text& path) {
   if (!index.isValid()) {
     return;
   }
-  const QScopedValueRollback showing(showing_, true);
   setCurrentIndex(index);
   expand(index);
   shown_ = folder;
@@ -65,20 +64,28 @@ void FolderTreeView::ScrollToShown() {
   }
 }
 
-// From here on the user says what is in view.
-bool FolderTreeView::viewportEvent(QEvent* event) {
-  if (event->type() == QEvent::Wheel || event->type() == QEvent::MouseButtonPress) {
-    shown_.clear();
-  }
-  return QTreeView::viewportEvent(event);
+void FolderTreeView::mousePressEvent(QMouseEvent* event) {
+  const QScopedValueRollback acting(userActs_, true);
+  shown_.clear();  // from here on the user says what is in view
+  QTreeView::mousePressEvent(event);
+}
+
+void FolderTreeView::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback acting(userActs_, true);
+  shown_.clear();
+  QTreeView::keyPressEvent(event);
+}
+
+void FolderTreeView::wheelEvent(QWheelEvent* event) {
+  shown_.clear();
+  QTreeView::wheelEvent(event);
 }
 
 void FolderTreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
-  if (showing_ || !current.isValid() || noticeWaits_) {
+  if (!userActs_ || !current.isValid() || noticeWaits_) {
     return;
   }
-  shown_.clear();
   noticeWaits_ = true;
   QTimer::singleShot(0, this, [this] {
     noticeWaits_ = false;

@@ -20,14 +20,17 @@ class FolderTreeView final : public QTreeView, public FolderTree {
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
-  bool viewportEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   void ScrollToShown();
 
   QFileSystemModel folders_;
   QString shown_;  // to be kept in view until its surroundings have been read
-  bool showing_ = false;
+  // The model moves the current folder by itself while it reads; only what the user does counts.
+  bool userActs_ = false;
   bool noticeWaits_ = false;
 };
 

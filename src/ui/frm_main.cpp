@@ -53,6 +53,7 @@ FrmMain::FrmMain() : controls_(*this) {
   controls_.FileStatus->installEventFilter(this);
   resize(PixelsOf(DesignWidth), PixelsOf(DesignHeight));
   PlaceControls();
+  ShowFileStatus({});
 }
 
 void FrmMain::InitLayout() {

@@ -244,7 +244,7 @@ bool Program::FocusNextBox() {
     return true;
   }
   for (const BoxControls& box : window_.Controls().Boxes) {
-    if (box.Content->isVisible()) {
+    if (box.Content->isVisible() && box.Content->isEnabled()) {
       box.Content->setFocus(Qt::TabFocusReason);  // the only one
       return true;
     }

@@ -1,5 +1,7 @@
 #include "gui/window_world.h"
 
+#include "platform/file_name_bytes.h"
+
 namespace vorlane {
 
 namespace {
