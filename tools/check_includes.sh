@@ -4,8 +4,8 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-rooms=(platform metadata engine form preview filelist catalogue batch shell net cli ui)
-core=(platform metadata engine form preview filelist catalogue batch shell net cli)
+rooms=(platform metadata engine form preview filelist catalogue batch layout shell net cli ui)
+core=(platform metadata engine form preview filelist catalogue batch layout shell net cli)
 system_headers='sys/|unistd\.h|fcntl\.h|dirent\.h|signal\.h|netdb\.h|netinet/|arpa/|poll\.h|spawn\.h|windows\.h|winsock'
 bad=0
 

@@ -115,6 +115,13 @@ void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
   ScrollTo(row, rowsPerPage);
   if (form_.DoAll) {
     form_.SelectRow(row);
+  } else if (form_.IsTimerRunning(FormTimer::AutoPreview)) {
+    // What was typed a moment ago counts, though its preview hasn't come yet.
+    form_.StopTimer(FormTimer::AutoPreview);
+    preview_.UpdateFilePreviewAll(false, row);
+  }
+  if (IsListReplaced()) {
+    return;
   }
   const Text path = form_.Rows.PathOf(row);
   RowOutcome outcome{.Row = row, .Name = form_.Rows.At(row).Name};

@@ -31,13 +31,44 @@ void Form::SetProgress(std::int32_t percent) {
 
 void Form::HoldStatus(TextView text) {
   HeldStatus = text;
-  View.TimerStarted(FormTimer::ProgramStatus);
+  StartTimer(FormTimer::ProgramStatus);
 }
 
 void Form::SetListCounter(std::int32_t count) {
   HeldFileStatus = DecimalText(count).append(
       InterfaceText(ListFolders ? TextNumber::Folders : TextNumber::Files));
-  View.TimerStarted(FormTimer::FileStatus);
+  StartTimer(FormTimer::FileStatus);
+}
+
+void Form::SetFileStatus(TextView text) {
+  FileStatus = text;
+  View.FileStatusChanged();
+}
+
+void Form::SetHelpToolTip(TextView text) {
+  HelpToolTip = text;
+  View.HelpChanged();
+}
+
+void Form::StartTimer(FormTimer timer) {
+  if (!IsTimerRunning(timer)) {
+    timerRunning_[static_cast<std::size_t>(timer)] = true;
+    View.TimerStarted(timer);
+  }
+}
+
+void Form::StopTimer(FormTimer timer) {
+  timerRunning_[static_cast<std::size_t>(timer)] = false;
+  View.TimerStopped(timer);
+}
+
+void Form::RestartTimer(FormTimer timer) {
+  StopTimer(timer);
+  StartTimer(timer);
+}
+
+bool Form::IsTimerRunning(FormTimer timer) const {
+  return timerRunning_[static_cast<std::size_t>(timer)];
 }
 
 void Form::SetPointer(MousePointer pointer) {

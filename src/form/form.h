@@ -64,6 +64,7 @@ class Form final : public StatusLine {
   // The list.
   Text CurrentPath;  // with its trailing separator
   Text WildCard = u"*.*";
+  std::vector<Text> WildCardItems;  // what the wildcard's box offers
   FileRows Rows;
   IndexedNames CurrentNames;   // in finding order; empty where the wildcard didn't match
   IndexedNames ProposedNames;  // what SetProposedName wrote; markers don't go in
@@ -71,11 +72,15 @@ class Form final : public StatusLine {
 
   JobStates Jobs;
   bool JournalInUse = false;  // a run or an undo is at work, its waits before and behind included
+  // No job is at work, so that a handler may begin one.
+  bool IsIdle() const { return Jobs.AllIdle() && !JournalInUse; }
 
   // Status lines.
   Text Status;          // lblStatus
   Text HeldStatus;      // what the ProgramStatus timer will show
+  Text FileStatus;      // lblFileStatus
   Text HeldFileStatus;  // what the FileStatus timer will show
+  Text HelpToolTip;     // of the help button
   std::int32_t Progress = 0;
 
   MousePointer Pointer = MousePointer::Default;
@@ -89,6 +94,14 @@ class Form final : public StatusLine {
   // Shown when the timer next ticks; only the last text of each interval is seen.
   void HoldStatus(TextView text);
   void SetListCounter(std::int32_t count);
+  void SetFileStatus(TextView text);
+  void SetHelpToolTip(TextView text);
+
+  // The one-shot timers. A start leaves one that runs already alone.
+  void StartTimer(FormTimer timer);
+  void StopTimer(FormTimer timer);
+  void RestartTimer(FormTimer timer);
+  bool IsTimerRunning(FormTimer timer) const;
 
   void SetPointer(MousePointer pointer);
   void LockControls();
@@ -117,6 +130,7 @@ class Form final : public StatusLine {
 
   MessageLoop& loop_;
   int quietBoxes_ = 0;
+  std::array<bool, FormTimerCount> timerRunning_ = {};
 };
 
 // Marks the journal as in use while it lives: no run and no undo may begin inside another one.

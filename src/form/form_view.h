@@ -2,6 +2,7 @@
 // Every notification has an empty default: a program without a window takes what it needs.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "form/file_rows.h"
@@ -9,11 +10,14 @@
 
 namespace vorlane {
 
-// The one-shot timers that show a held text.
+// The one-shot timers of the form.
 enum class FormTimer : std::uint8_t {
-  ProgramStatus,  // the program status
-  FileStatus,     // the row count
+  ProgramStatus,  // shows the held program status
+  FileStatus,     // shows the held row count
+  UpdateList,     // lists anew behind a pause in the typing of a wildcard
+  AutoPreview,    // previews behind a pause in the typing of a box
 };
+inline constexpr std::size_t FormTimerCount = 4;
 
 enum class FormControl : std::uint8_t {
   FileList,
@@ -36,8 +40,13 @@ class FormView {
   virtual void PointerChanged() {}
   virtual void ControlEnabled(FormControl, bool /*enabled*/) {}
   virtual void RunButtonsChanged() {}  // Go or Stop is visible
+  virtual void ModesChanged() {}       // All or One, files or folders, with sub-folders or not
+  virtual void HelpChanged() {}        // the tool tip of the help button
+  virtual void WildCardChanged() {}    // the wildcard's text or its items
   virtual void BoxTextChanged(int /*box*/) {}
-  virtual void TimerStarted(FormTimer) {}  // one that runs already runs on
+  virtual void BoxShapeChanged(int /*box*/) {}  // anything about a box but its text
+  virtual void FileStatusChanged() {}           // the row count that is shown
+  virtual void TimerStarted(FormTimer) {}       // only when it isn't running
   virtual void TimerStopped(FormTimer) {}
 
   virtual void RowsCleared() {}

@@ -44,7 +44,7 @@ void Preview::UpdateFilePreviewAll(bool all, std::int32_t row) {
   const bool done = ReportingFailures(services_.Report, FormName, u"UpdateFilePreviewAll", u"",
                                       [&] { RunPass(all, row); });
   if (!done) {
-    form_.View.TimerStopped(FormTimer::ProgramStatus);
+    form_.StopTimer(FormTimer::ProgramStatus);
     form_.Jobs.PreviewState = JobState::Idle;
     EnableBrowser();
     form_.SetPointer(MousePointer::Default);
@@ -133,7 +133,7 @@ Preview::RowRange Preview::RowsToDo(bool all, std::int32_t row) const {
 
 void Preview::FinishPass() {
   form_.SetProgress(100);
-  form_.View.TimerStopped(FormTimer::ProgramStatus);
+  form_.StopTimer(FormTimer::ProgramStatus);
   form_.Jobs.PreviewState = JobState::Idle;
   EnableBrowser();
   if (form_.Pointer == MousePointer::ArrowHourglass) {

@@ -61,6 +61,11 @@ class RecordingView final : public FormView {
   void PointerChanged() override { Note(u"pointer"); }
   void ControlEnabled(FormControl control, bool enabled) override;
   void RunButtonsChanged() override { Note(u"run buttons"); }
+  void ModesChanged() override { Note(u"modes"); }
+  void HelpChanged() override { Note(u"help"); }
+  void WildCardChanged() override { Note(u"wildcard"); }
+  void FileStatusChanged() override { Note(u"file status"); }
+  void BoxShapeChanged(int box) override { Note(u"box shape " + DecimalText(box)); }
   void BoxTextChanged(int box) override { Note(u"box " + DecimalText(box)); }
   void TimerStarted(FormTimer timer) override;
   void TimerStopped(FormTimer timer) override;
