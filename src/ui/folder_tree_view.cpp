@@ -1,8 +1,11 @@
 #include "ui/folder_tree_view.h"
 
+#include <QAbstractFileIconProvider>
+#include <QApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTimer>
 
 #include "ui/qt_text.h"
@@ -10,6 +13,18 @@
 namespace vorlane {
 
 namespace {
+
+// One icon for all. The toolkit's own provider would open every file of the folder to find out what
+// it is, and again after each change.
+class FolderIcons final : public QAbstractFileIconProvider {
+ public:
+  QIcon icon(const QFileInfo& /*entry*/) const override { return folder_; }
+  QIcon icon(IconType /*type*/) const override { return folder_; }
+  QString type(const QFileInfo& /*entry*/) const override { return {}; }
+
+ private:
+  QIcon folder_ = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
+};
 
 int LevelOf(QModelIndex index) {
   int level = 0;
@@ -21,7 +36,9 @@ int LevelOf(QModelIndex index) {
 
 }  // namespace
 
-FolderTreeView::FolderTreeView(QWidget* parent) : QTreeView(parent) {
+FolderTreeView::FolderTreeView(QWidget* parent)
+    : QTreeView(parent), icons_(std::make_unique<FolderIcons>()) {
+  folders_.setIconProvider(icons_.get());
   folders_.setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
   folders_.setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
   folders_.setRootPath(QStringLiteral("/"));
@@ -37,6 +54,8 @@ FolderTreeView::FolderTreeView(QWidget* parent) : QTreeView(parent) {
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   connect(&folders_, &QFileSystemModel::directoryLoaded, this, [this] { ScrollToShown(); });
 }
+
+FolderTreeView::~FolderTreeView() = default;
 
 void FolderTreeView::ShowFolder(const Text& path) {
   const QString folder = ToQString(path);

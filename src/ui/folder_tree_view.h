@@ -4,6 +4,7 @@
 #include <QFileSystemModel>
 #include <QTreeView>
 #include <functional>
+#include <memory>
 
 #include "shell/folder_browser.h"
 
@@ -12,6 +13,7 @@ namespace vorlane {
 class FolderTreeView final : public QTreeView, public FolderTree {
  public:
   explicit FolderTreeView(QWidget* parent);
+  ~FolderTreeView() override;
 
   void ShowFolder(const Text& path) override;
 
@@ -27,6 +29,7 @@ class FolderTreeView final : public QTreeView, public FolderTree {
  private:
   void ScrollToShown();
 
+  std::unique_ptr<QAbstractFileIconProvider> icons_;
   QFileSystemModel folders_;
   QString shown_;  // to be kept in view until its surroundings have been read
   // The model moves the current folder by itself while it reads; only what the user does counts.
