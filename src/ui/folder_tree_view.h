@@ -1,21 +1,22 @@
 // The tree of folders inside picBrowse.
 #pragma once
 
-#include <QFileSystemModel>
 #include <QTreeView>
 #include <functional>
-#include <memory>
 
 #include "shell/folder_browser.h"
+#include "ui/folder_tree_model.h"
 
 namespace vorlane {
 
 class FolderTreeView final : public QTreeView, public FolderTree {
  public:
-  explicit FolderTreeView(QWidget* parent);
-  ~FolderTreeView() override;
+  FolderTreeView(QWidget* parent, FileSystem& files);
 
   void ShowFolder(const Text& path) override;
+
+  // Folders may have come or gone in that folder.
+  void Refresh(const Text& path);
 
   // The user has selected the folder.
   std::function<void(const Text& path)> OnFolderSelected;
@@ -24,16 +25,13 @@ class FolderTreeView final : public QTreeView, public FolderTree {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void ScrollToShown();
+  void ScrollToCurrent();
 
-  std::unique_ptr<QAbstractFileIconProvider> icons_;
-  QFileSystemModel folders_;
-  QString shown_;  // to be kept in view until its surroundings have been read
-  // The model moves the current folder by itself while it reads; only what the user does counts.
-  bool userActs_ = false;
+  FolderTreeModel folders_;
+  bool userActs_ = false;  // only what the user does counts as a selection
   bool noticeWaits_ = false;
 };
 

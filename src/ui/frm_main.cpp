@@ -31,7 +31,7 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain() : controls_(*this) {
+FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
   for (const FormControlPlace& control : layout_.Controls()) {

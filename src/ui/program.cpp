@@ -51,6 +51,7 @@ Program::Program(const ProgramServices& services, const TimerIntervals& interval
       listTimers_(form_, services_, list_, preview_),
       gate_(form_.Jobs),
       timers_(intervals),
+      window_(services.Files),
       browser_(form_, services_, list_, *window_.Controls().Folders),
       keys_(window_) {
   presenter_.Attach(form_, window_, gate_, timers_);
@@ -204,10 +205,19 @@ void Program::ConnectWindow() {
   window_.OnClose = [this] { return MayClose(); };
   gate_.OnIdle = [this] {
     presenter_.Refresh();
+    RefreshFolders();
     if (closeWanted_ && !closed_) {
       QTimer::singleShot(0, &window_, [this] { window_.close(); });
     }
   };
+}
+
+// A run and its undo make folders and take them away.
+void Program::RefreshFolders() {
+  if (form_.Rows.Generation() != shownGeneration_) {
+    shownGeneration_ = form_.Rows.Generation();
+    window_.Controls().Folders->Refresh(form_.CurrentPath);
+  }
 }
 
 void Program::Go() {

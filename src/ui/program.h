@@ -67,6 +67,7 @@ class Program {
   void ConnectKeys();
   void ConnectWindow();
   bool MayClose();
+  void RefreshFolders();
   void Go();
   void FocusNextPane(bool back);
   bool FocusNextBox();
@@ -91,6 +92,7 @@ class Program {
   FolderBrowser browser_;
   WindowKeys keys_;
   OperationsTree operations_;
+  std::uint64_t shownGeneration_ = 0;  // of the list, when the folder tree was last read again
   bool closeWanted_ = false;
   bool closed_ = false;
 };
