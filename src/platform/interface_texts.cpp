@@ -93,6 +93,18 @@ constexpr NumberedText Texts[] = {
     {2004, u"Unknown"},
     {2005, u"Version "},
     {2006, u"Open with Vorlane"},
+    {2100, u"Go"},
+    {2101, u"Stop"},
+    {2102, u"Files"},
+    {2103, u"Folders"},
+    {2104, u"This folder"},
+    {2105, u"Sub-folders"},
+    {2106, u"One"},
+    {2107, u"All"},
+    {2110, u"List of files and folders"},
+    {2111, u"Status"},
+    {2112, u"Number of files or folders"},
+    {2113, u"Progress"},
 };
 
 static_assert(std::is_sorted(std::begin(Texts), std::end(Texts),

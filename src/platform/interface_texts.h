@@ -87,6 +87,22 @@ inline constexpr int UnknownModule = 2004;
 inline constexpr int Version = 2005;
 inline constexpr int OpenWithVorlane = 2006;
 
+// Captions of buttons that have no picture.
+inline constexpr int Go = 2100;
+inline constexpr int Stop = 2101;
+inline constexpr int ListFiles = 2102;
+inline constexpr int ListFolders = 2103;
+inline constexpr int ThisFolderOnly = 2104;
+inline constexpr int IncludeSubFolders = 2105;
+inline constexpr int DoOne = 2106;
+inline constexpr int DoAll = 2107;
+
+// What assistive programs call the controls that have no other name.
+inline constexpr int FileListName = 2110;
+inline constexpr int StatusName = 2111;
+inline constexpr int FileStatusName = 2112;
+inline constexpr int ProgressName = 2113;
+
 }  // namespace TextNumber
 
 }  // namespace vorlane

@@ -1,0 +1,69 @@
+// Every control of the main window, made under its own name. Where they stand is the layout's
+// business, what they show the presenter's, what they set off the program's.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <array>
+
+#include "form/option_box.h"
+#include "ui/file_list_view.h"
+#include "ui/folder_tree_view.h"
+#include "ui/operations_view.h"
+
+namespace vorlane {
+
+struct BoxControls {
+  QLabel* Caption = nullptr;
+  QLineEdit* Content = nullptr;
+  QCheckBox* Check = nullptr;
+};
+
+inline constexpr int HelpLabelCount = 16;
+
+// The controls belong to the form.
+struct FormControls {
+  explicit FormControls(QWidget& form);
+
+  QLabel* TopBar;
+  QLabel* BottomBar;
+  QLabel* Title;
+  QFrame* Browse;
+  FolderTreeView* Folders;  // inside Browse
+  OperationsView* Operations;
+  FileListView* FileList;
+  QComboBox* Keywords;
+  QLabel* FileStatus;
+  QLabel* Status;
+  QPushButton* ListFiles;
+  QPushButton* ListFolders;
+  QPushButton* ThisFolderOnly;
+  QPushButton* IncludeSubFolders;
+  QPushButton* DoOne;
+  QPushButton* DoAll;
+  QComboBox* WildCard;
+  QProgressBar* Progress;
+  QPushButton* Exit;
+  QPushButton* Help;
+  QPushButton* Undo;
+  QPushButton* Go;
+  QPushButton* Stop;
+  std::array<BoxControls, OptionBoxCount> Boxes;
+  std::array<QLabel*, HelpLabelCount> HelpLabels;
+
+  // The places where the focus goes by TAB, in order.
+  std::vector<QWidget*> TabChain() const;
+
+ private:
+  void GiveNames();
+  void DescribeForAccessibility();
+};
+
+// The name of a control that is one of a group: "txtRenameOption(0)".
+QString NameInGroup(const char* group, int index);
+
+}  // namespace vorlane

@@ -1,0 +1,172 @@
+#include "ui/frm_main.h"
+
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+
+#include "platform/vendor.h"
+#include "ui/qt_text.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr int LabelPixels = 11;
+
+QFont LabelFont(bool bold) {
+  QFont font(QStringLiteral("Trebuchet MS"));
+  font.setPixelSize(LabelPixels);
+  font.setBold(bold);
+  return font;
+}
+
+bool IsAutosized(const FormControlPlace& control) {
+  return control.Kind == ControlKind::Label;
+}
+
+QString NameOf(const FormControlPlace& control) {
+  const std::string name(control.Name);
+  return control.Index < 0 ? QString::fromLatin1(name.c_str())
+                           : NameInGroup(name.c_str(), control.Index);
+}
+
+}  // namespace
+
+FrmMain::FrmMain() : controls_(*this) {
+  setObjectName(QStringLiteral("frmMain"));
+  setWindowTitle(ToQString(ApplicationTitle));
+  for (const FormControlPlace& control : layout_.Controls()) {
+    auto* widget = findChild<QWidget*>(NameOf(control), Qt::FindDirectChildrenOnly);
+    widget->setVisible(control.VisibleAtFirst);
+    if (control.Kind == ControlKind::Label) {
+      widget->setFont(LabelFont(control.Name == "lblTitle"));
+    }
+    widget->raise();
+    placed_.push_back(widget);
+  }
+  QWidget* before = nullptr;
+  for (QWidget* next : controls_.TabChain()) {
+    if (before != nullptr) {
+      setTabOrder(before, next);
+    }
+    before = next;
+  }
+  controls_.FileStatus->installEventFilter(this);
+  resize(PixelsOf(DesignWidth), PixelsOf(DesignHeight));
+  PlaceControls();
+  ShowFileStatus({});
+}
+
+void FrmMain::InitLayout() {
+  layout_.InitResizeTags();
+  measured_ = true;
+  ResizeIfChanged();
+}
+
+void FrmMain::RestorePlacement(const PlacementToApply& placement) {
+  const QScopedValueRollback resizing(inResize_, true);
+  move(placement.Left ? PixelsOf(*placement.Left) : x(),
+       placement.Top ? PixelsOf(*placement.Top) : y());
+  resize(placement.Width ? PixelsOf(*placement.Width) : width(),
+         placement.Height ? PixelsOf(*placement.Height) : height());
+  ResizeIfChanged();
+}
+
+TwipsRect FrmMain::NormalPlacement() const {
+  const QSize client = isMinimized() ? normalGeometry().size() : size();
+  const QPoint frame = isMinimized() ? normalGeometry().topLeft() : pos();
+  return {TwipsOf(frame.x()), TwipsOf(frame.y()), TwipsOf(client.width()),
+          TwipsOf(client.height())};
+}
+
+void FrmMain::ResizeIfChanged() {
+  if (measured_ && layout_.ResizeIfChanged(TwipsOf(width()), TwipsOf(height()))) {
+    PlaceControls();
+  }
+}
+
+void FrmMain::PlaceControls() {
+  for (std::size_t i = 0; i < placed_.size(); ++i) {
+    const FormControlPlace& control = layout_.Controls()[i];
+    const TwipsRect& place = control.Place;
+    const QPoint corner(PixelsOf(place.Left), PixelsOf(place.Top));
+    if (IsAutosized(control)) {
+      placed_[i]->move(corner);
+      placed_[i]->adjustSize();
+    } else {
+      placed_[i]->setGeometry({corner, QSize(PixelsOf(place.Width), PixelsOf(place.Height))});
+    }
+  }
+  PlaceStatus();
+}
+
+void FrmMain::PlaceBoxLabels() {
+  for (const BoxControls& box : controls_.Boxes) {
+    box.Caption->adjustSize();
+  }
+}
+
+void FrmMain::ShowStatus(const QString& text) {
+  status_ = text;
+  PlaceStatus();
+}
+
+void FrmMain::PlaceStatus() {
+  QLabel& label = *controls_.Status;
+  const int room = std::max(0, width() - 2 * label.x());
+  label.setText(label.fontMetrics().elidedText(status_, Qt::ElideRight, room));
+  label.setAccessibleDescription(status_);
+  label.adjustSize();
+}
+
+void FrmMain::ShowFileStatus(const QString& text) {
+  QLabel& label = *controls_.FileStatus;
+  label.setText(text);
+  label.adjustSize();
+  layout_.SetFileStatusWidth(TwipsOf(label.width()));
+  const TwipsRect& place = layout_.PlaceOf("lblFileStatus");
+  label.move(PixelsOf(place.Left), PixelsOf(place.Top));
+}
+
+void FrmMain::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (isMaximized()) {
+    pendingRestore_ = true;
+    if (OnMaximized) {
+      OnMaximized();
+    }
+  }
+  if (isMinimized() || inResize_) {
+    return;
+  }
+  if (!isMaximized() && pendingRestore_) {
+    pendingRestore_ = false;
+    if (OnRestored) {
+      OnRestored();
+    }
+  }
+  ResizeIfChanged();
+}
+
+void FrmMain::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && !activated_) {
+    activated_ = true;
+    if (OnFirstActivation) {
+      OnFirstActivation();
+    }
+  }
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+  event->setAccepted(!OnClose || OnClose());
+}
+
+bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == controls_.FileStatus && event->type() == QEvent::MouseButtonDblClick &&
+      OnFileStatusDoubleClicked) {
+    OnFileStatusDoubleClicked();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace vorlane

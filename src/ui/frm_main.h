@@ -1,0 +1,62 @@
+// frmMain: the window. It places its controls and passes on what happens to it as a window.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "layout/main_form_layout.h"
+#include "layout/window_placement.h"
+#include "ui/form_controls.h"
+
+namespace vorlane {
+
+class FrmMain final : public QWidget {
+ public:
+  FrmMain();
+
+  FormControls& Controls() { return controls_; }
+
+  // Measures what the layout keeps. Once, when the controls have their first places.
+  void InitLayout();
+
+  // Takes a stored place back. Only what it holds is changed.
+  void RestorePlacement(const PlacementToApply& placement);
+
+  // The frame's place and the client area's size, in twips; of the window as it is when it isn't
+  // maximized.
+  TwipsRect NormalPlacement() const;
+
+  // Labels are as wide as their text; the status line ends at the window's edge.
+  void ShowStatus(const QString& text);
+  void ShowFileStatus(const QString& text);
+  void PlaceBoxLabels();
+
+  // May the window be closed now? Asked at each attempt.
+  std::function<bool()> OnClose;
+  std::function<void()> OnFirstActivation;
+  std::function<void()> OnFileStatusDoubleClicked;
+  std::function<void()> OnMaximized;
+  std::function<void()> OnRestored;  // from maximized to normal
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void ResizeIfChanged();
+  void PlaceControls();
+  void PlaceStatus();
+
+  FormControls controls_;
+  MainFormLayout layout_;
+  std::vector<QWidget*> placed_;  // by the layout's order
+  QString status_;
+  bool measured_ = false;
+  bool inResize_ = false;        // the program itself sets the size
+  bool pendingRestore_ = false;  // the window has been maximized
+  bool activated_ = false;
+};
+
+}  // namespace vorlane

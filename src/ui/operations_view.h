@@ -1,0 +1,35 @@
+// lstRenamingOperations: the tree of operations.
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+#include <vector>
+
+#include "catalogue/operations_tree.h"
+
+namespace vorlane {
+
+class OperationsView final : public QTreeWidget {
+ public:
+  explicit OperationsView(QWidget* parent);
+
+  void ShowOperations(const std::vector<OperationNode>& nodes);
+
+  // Selects from code, without a notice.
+  void ShowSelected(std::int32_t index);
+
+  // The user has picked the node, by the mouse or by a key.
+  std::function<void(std::int32_t index)> OnNodeClicked;
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+ private:
+  void ClickLater();
+
+  std::vector<QTreeWidgetItem*> items_;  // by index - 1
+  bool showing_ = false;
+  bool clickWaits_ = false;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,275 @@
+#include "ui/program.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+
+#include "ui/qt_text.h"
+
+namespace vorlane {
+
+namespace {
+
+// Tells when a box gets or loses the focus. Another window in front, or a list that has opened, is
+// no leaving of the box.
+class FocusWatch final : public QObject {
+ public:
+  FocusWatch(QObject* parent, std::function<void()> onGot, std::function<void()> onLost)
+      : QObject(parent), onGot_(std::move(onGot)), onLost_(std::move(onLost)) {}
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn) {
+      onGot_();
+    } else if (event->type() == QEvent::FocusOut) {
+      const auto reason = static_cast<QFocusEvent*>(event)->reason();
+      if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+        onLost_();
+      }
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> onGot_;
+  std::function<void()> onLost_;
+};
+
+}  // namespace
+
+Program::Program(const ProgramServices& services, const TimerIntervals& intervals)
+    : form_(presenter_, loop_),
+      services_{services.Files, services.Time, loop_, services.Report, services.Prompts},
+      facts_(services.Files, services.Time, services.Report, services.Prompts),
+      preview_(form_, services_, facts_),
+      list_(form_, services_, preview_),
+      events_(form_, services_, list_, preview_),
+      wildcard_(form_),
+      boxes_(form_, services_, services.Memory),
+      selection_(form_, services_, list_, wildcard_, services.Memory),
+      run_(form_, services_, facts_, preview_, list_),
+      undo_(form_, services_, list_),
+      listTimers_(form_, services_, list_, preview_),
+      gate_(form_.Jobs),
+      timers_(intervals),
+      browser_(form_, services_, list_, *window_.Controls().Folders),
+      keys_(window_) {
+  presenter_.Attach(form_, window_, gate_, timers_);
+  ConnectButtons();
+  ConnectList();
+  ConnectTrees();
+  ConnectBoxes();
+  ConnectTimers();
+  ConnectKeys();
+  ConnectWindow();
+}
+
+void Program::ShowOperations(OperationsTree tree) {
+  operations_ = std::move(tree);
+  form_.OperationCodes = operations_.OperationCodes;
+  window_.Controls().Operations->ShowOperations(operations_.Nodes);
+}
+
+void Program::SelectOperation(std::int32_t index) {
+  if (operations_.Nodes.empty()) {
+    return;
+  }
+  if (index < 1 || static_cast<std::size_t>(index) > operations_.Nodes.size()) {
+    index = 1;
+  }
+  window_.Controls().Operations->ShowSelected(index);
+  gate_.Start([this, index] {
+    form_.SelectedOperation = index;
+    selection_.lstRenamingOperations_NodeClick();
+  });
+}
+
+void Program::ConnectButtons() {
+  const auto connect = [](QPushButton* button, std::function<void()> handler) {
+    QObject::connect(button, &QPushButton::clicked, button, std::move(handler));
+  };
+  FormControls& controls = window_.Controls();
+  connect(controls.Go, [this] { Go(); });
+  connect(controls.Stop, [this] { form_.Jobs.RequestStop(); });
+  connect(controls.Undo, [this] { gate_.Start([this] { undo_.cmdUndo_Click(); }); });
+  connect(controls.Exit, [this] { Close(); });
+  for (QPushButton* button : {controls.DoOne, controls.DoAll}) {
+    connect(button, [this] { gate_.Start([this] { events_.cmdDoAllOrOne_Click(); }); });
+  }
+  for (QPushButton* button : {controls.ListFiles, controls.ListFolders}) {
+    connect(button, [this] { gate_.Start([this] { events_.cmdListFilesOrFolders_Click(); }); });
+  }
+  for (QPushButton* button : {controls.ThisFolderOnly, controls.IncludeSubFolders}) {
+    connect(button, [this] { gate_.Start([this] { events_.cmdSubFoldersOrNot_Click(); }); });
+  }
+}
+
+void Program::ConnectList() {
+  FileListView& view = *window_.Controls().FileList;
+  view.OnRowSelected = [this](int row) { form_.Rows.Select(row); };
+  view.OnRowClicked = [this] { gate_.Run([this] { events_.lstFileList_ItemClick(); }); };
+  view.OnColumnClicked = [this](Column column) {
+    gate_.Start([this, column] { events_.lstFileList_ColumnClick(column); });
+  };
+  view.OnFolderDropped = [this](const QString& folder) {
+    gate_.Start([this, path = ToText(folder)] { browser_.FolderDropped({path}); });
+  };
+  window_.OnFileStatusDoubleClicked = [this] {
+    gate_.Start([this] { events_.lblFileStatus_DblClick(); });
+  };
+}
+
+void Program::ConnectTrees() {
+  FormControls& controls = window_.Controls();
+  controls.Operations->OnNodeClicked = [this](std::int32_t index) {
+    gate_.Start([this, index] {
+      form_.SelectedOperation = index;
+      selection_.lstRenamingOperations_NodeClick();
+    });
+  };
+  controls.Folders->OnFolderSelected = [this](const Text& path) {
+    gate_.Start([this, path] { browser_.SelectionChanged(path); });
+  };
+}
+
+void Program::ConnectBoxes() {
+  FormControls& controls = window_.Controls();
+  QObject::connect(controls.WildCard, &QComboBox::editTextChanged, &window_,
+                   [this](const QString& text) {
+                     gate_.Run([this, &text] { wildcard_.cboWildCard_Change(ToText(text)); });
+                   });
+  for (int box = 0; box < OptionBoxCount; ++box) {
+    const BoxControls& shown = controls.Boxes[static_cast<std::size_t>(box)];
+    QObject::connect(shown.Content, &QLineEdit::textEdited, &window_,
+                     [this, box](const QString& text) {
+                       form_.Boxes[static_cast<std::size_t>(box)].Content = ToText(text);
+                       gate_.Run([this, box] { boxes_.txtRenameOption_Change(box); });
+                     });
+    QObject::connect(shown.Check, &QCheckBox::clicked, &window_, [this, box](bool ticked) {
+      gate_.Run([this, box, ticked] { boxes_.chkRenameOption_Click(box, ticked); });
+    });
+    shown.Content->installEventFilter(new FocusWatch(
+        shown.Content, [this, box] { boxes_.txtRenameOption_GotFocus(box); },
+        [this, box] { gate_.Run([this, box] { boxes_.txtRenameOption_LostFocus(box); }); }));
+  }
+}
+
+void Program::ConnectTimers() {
+  const auto connect = [this](QTimer& timer, std::function<void()> tick) {
+    QObject::connect(&timer, &QTimer::timeout, &window_,
+                     [this, tick = std::move(tick)] { gate_.Run(tick); });
+  };
+  connect(timers_.tmrFileStatus, [this] { listTimers_.tmrFileStatus_Timer(); });
+  connect(timers_.tmrProgramStatus, [this] { listTimers_.tmrProgramStatus_Timer(); });
+  connect(timers_.tmrUpdateList, [this] { listTimers_.tmrUpdateList_Timer(); });
+  connect(timers_.tmrAutoPreview, [this] { listTimers_.tmrAutoPreview_Timer(); });
+  connect(timers_.tmrFileCounter, [this] { listTimers_.tmrFileCounter_Timer(); });
+  connect(timers_.tmrListScroll, [this] {
+    const bool leftDown = (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
+    listTimers_.tmrListScroll_Timer(leftDown);
+  });
+  timers_.tmrListScroll.start();
+}
+
+void Program::ConnectKeys() {
+  keys_.OnGo = [this] {
+    const QPushButton* go = window_.Controls().Go;
+    if (go->isEnabled() && go->isVisible()) {
+      Go();
+    }
+  };
+  keys_.OnStop = [this] { form_.Jobs.RequestStop(); };
+  keys_.OnUndo = [this] {
+    if (form_.UndoEnabled) {
+      gate_.Start([this] { undo_.cmdUndo_Click(); });
+    }
+  };
+  keys_.OnListAnew = [this] {
+    gate_.Start([this] {
+      if (form_.IsIdle()) {
+        list_.PathChangedEvent();
+      }
+    });
+  };
+  keys_.OnClose = [this] { Close(); };
+  keys_.OnTab = [this] { return FocusNextBox(); };
+  keys_.OnNextPane = [this](bool back) { FocusNextPane(back); };
+}
+
+void Program::ConnectWindow() {
+  window_.OnFirstActivation = [this] {
+    listTimers_.FirstActivation();
+    timers_.tmrFileCounter.start();
+  };
+  window_.OnMaximized = [this] { form_.RestartTimer(FormTimer::AutoPreview); };
+  window_.OnClose = [this] { return MayClose(); };
+  gate_.OnIdle = [this] {
+    presenter_.Refresh();
+    if (closeWanted_ && !closed_) {
+      QTimer::singleShot(0, &window_, [this] { window_.close(); });
+    }
+  };
+}
+
+void Program::Go() {
+  gate_.Start([this] { run_.cmdGo_Click(); });
+}
+
+// Closing in the middle of a job would cut it off. It is asked to stop, and once all handlers have
+// come back the window closes by itself.
+bool Program::MayClose() {
+  if (closed_) {
+    return true;
+  }
+  if (!gate_.IsIdle() || QApplication::activeModalWidget() != nullptr) {
+    closeWanted_ = true;
+    form_.Jobs.RequestStop();
+    return false;
+  }
+  closed_ = true;
+  if (OnClosing) {
+    OnClosing();
+  }
+  return true;
+}
+
+void Program::Close() {
+  window_.close();
+}
+
+// TAB goes from box to box while one is shown.
+bool Program::FocusNextBox() {
+  const auto next = boxes_.NextBox();
+  if (next) {
+    window_.Controls().Boxes[static_cast<std::size_t>(*next)].Content->setFocus(Qt::TabFocusReason);
+    return true;
+  }
+  for (const BoxControls& box : window_.Controls().Boxes) {
+    if (box.Content->isVisible() && box.Content->isEnabled()) {
+      box.Content->setFocus(Qt::TabFocusReason);  // the only one
+      return true;
+    }
+  }
+  return false;
+}
+
+// F6 goes through the panes, boxes or none.
+void Program::FocusNextPane(bool back) {
+  const auto chain = window_.Controls().TabChain();
+  const auto count = static_cast<int>(chain.size());
+  int at = -1;
+  for (int i = 0; i < count; ++i) {
+    if (chain[static_cast<std::size_t>(i)]->hasFocus()) {
+      at = i;
+    }
+  }
+  for (int step = 1; step <= count; ++step) {
+    const int next = ((back ? at - step : at + step) % count + count) % count;
+    QWidget* widget = chain[static_cast<std::size_t>(next)];
+    if (widget->isVisible() && widget->isEnabled()) {
+      widget->setFocus(back ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+      return;
+    }
+  }
+}
+
+}  // namespace vorlane

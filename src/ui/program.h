@@ -1,0 +1,98 @@
+// The running program: all rules, all services and the window, made once and joined together. Who
+// looks for what a control sets off finds it in the Connect functions.
+#pragma once
+
+#include <memory>
+
+#include "batch/batch_run.h"
+#include "batch/undo_run.h"
+#include "catalogue/operation_selection.h"
+#include "catalogue/operations_tree.h"
+#include "catalogue/option_boxes.h"
+#include "engine/disk_facts.h"
+#include "filelist/file_list.h"
+#include "filelist/list_events.h"
+#include "filelist/wildcard_box.h"
+#include "form/form.h"
+#include "preview/preview.h"
+#include "shell/folder_browser.h"
+#include "shell/list_timers.h"
+#include "ui/event_gate.h"
+#include "ui/form_presenter.h"
+#include "ui/frm_main.h"
+#include "ui/qt_message_loop.h"
+#include "ui/window_keys.h"
+#include "ui/window_timers.h"
+
+namespace vorlane {
+
+// What the program stands on; owned by main, or by a test.
+struct ProgramServices {
+  FileSystem& Files;
+  Clock& Time;
+  FailureReport& Report;
+  Prompter& Prompts;
+  BoxMemory& Memory;
+};
+
+class Program {
+ public:
+  Program(const ProgramServices& services, const TimerIntervals& intervals);
+
+  // Fills the operations tree; a tree whose reading failed is shown as far as it was read.
+  void ShowOperations(OperationsTree tree);
+
+  // Selects an operation as a click on it does; the first one if there is none of that index.
+  void SelectOperation(std::int32_t index);
+
+  // Asks the jobs to stop and closes the window as soon as they have ended.
+  void Close();
+
+  FrmMain& Window() { return window_; }
+  Form& State() { return form_; }
+  WildcardBox& Wildcard() { return wildcard_; }
+  FolderBrowser& Browser() { return browser_; }
+  WindowTimers& Timers() { return timers_; }
+  EventGate& Gate() { return gate_; }
+
+  // What is to be done before the window goes. Once.
+  std::function<void()> OnClosing;
+
+ private:
+  void ConnectButtons();
+  void ConnectList();
+  void ConnectTrees();
+  void ConnectBoxes();
+  void ConnectTimers();
+  void ConnectKeys();
+  void ConnectWindow();
+  bool MayClose();
+  void Go();
+  void FocusNextPane(bool back);
+  bool FocusNextBox();
+
+  FormPresenter presenter_;
+  QtMessageLoop loop_;
+  Form form_;
+  Services services_;
+  DiskFacts facts_;
+  Preview preview_;
+  FileList list_;
+  ListEvents events_;
+  WildcardBox wildcard_;
+  OptionBoxes boxes_;
+  OperationSelection selection_;
+  BatchRun run_;
+  UndoRun undo_;
+  ListTimers listTimers_;
+  EventGate gate_;
+  WindowTimers timers_;
+  FrmMain window_;
+  FolderBrowser browser_;
+  WindowKeys keys_;
+  OperationsTree operations_;
+  bool closeWanted_ = false;
+  bool closed_ = false;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,67 @@
+#include "ui/window_keys.h"
+
+#include <QApplication>
+
+namespace vorlane {
+
+namespace {
+
+bool Call(const std::function<void()>& handler) {
+  if (handler) {
+    handler();
+  }
+  return true;
+}
+
+// A text box takes its own typing back first.
+bool IsEditingUndoable() {
+  const auto* box = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+  return box != nullptr && box->isUndoAvailable();
+}
+
+}  // namespace
+
+WindowKeys::WindowKeys(FrmMain& window) : window_(window) {
+  qApp->installEventFilter(this);
+}
+
+bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) {
+    return false;
+  }
+  // Menus, the lists of combo boxes and message boxes have their keys to themselves.
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  const bool isOurs = widget != nullptr && widget->window() == &window_ &&
+                      QApplication::activePopupWidget() == nullptr &&
+                      QApplication::activeModalWidget() == nullptr;
+  return isOurs && TakeKey(*static_cast<QKeyEvent*>(event));
+}
+
+bool WindowKeys::TakeKey(const QKeyEvent& key) {
+  const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      // A key that is held down must not start one run after another.
+      return plain && (key.isAutoRepeat() || Call(OnGo));
+    case Qt::Key_Escape:
+      return plain && Call(OnStop);
+    case Qt::Key_Tab:
+      return plain && OnTab && OnTab();
+    case Qt::Key_F5:
+      return plain && Call(OnListAnew);
+    case Qt::Key_F6:
+      if (OnNextPane) {
+        OnNextPane((key.modifiers() & Qt::ShiftModifier) != 0);
+      }
+      return true;
+    case Qt::Key_Z:
+      return key.modifiers() == Qt::ControlModifier && !IsEditingUndoable() && Call(OnUndo);
+    case Qt::Key_Q:
+      return key.modifiers() == Qt::ControlModifier && Call(OnClose);
+    default:
+      return false;
+  }
+}
+
+}  // namespace vorlane

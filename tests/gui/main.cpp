@@ -1,0 +1,17 @@
+// The window's tests run on a screen in memory, each in a home folder of its own.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include "ui/application_look.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VORLANE_SOURCE_DIR "/tests/gui/screen.json");
+  qputenv("VORLANE_NO_FADE", "1");
+  QApplication app(argc, argv);
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  vorlane::SetApplicationLook();
+  return RUN_ALL_TESTS();
+}
