@@ -8,6 +8,7 @@
 #include "shell/desktop_texts.h"
 #include "shell/registry.h"
 #include "shell/stored_registry.h"
+#include "shell/verb_keys.h"
 #include "support/memory_file_system.h"
 #include "support/memory_registry_file.h"
 #include "support/recording_desktop.h"
