@@ -1,50 +1,36 @@
 #include "shell/verb_registry.h"
 
 #include "platform/letter_case.h"
+#include "shell/verb_keys.h"
 
 namespace vorlane {
 
 namespace {
 
-constexpr TextView ClassesVerbKey = u"Directory\\shell\\Open with Vorlane";
-constexpr TextView UserVerbKey = u"Software\\Classes\\Directory\\shell\\Open with Vorlane";
-constexpr TextView CommandEnd = u"\" %L";
+constexpr auto User = RegistryRoot::CurrentUser;
 
 // The verb's key, or one below it.
 bool IsOfVerb(const KeyPlace& key) {
   const TextView path = key.Path;
-  return key.Root == RegistryRoot::CurrentUser &&
-         EqualIgnoringCase(path.substr(0, UserVerbKey.size()), UserVerbKey) &&
-         (path.size() == UserVerbKey.size() || path[UserVerbKey.size()] == u'\\');
+  const Text verb = VerbKey(User);
+  return key.Root == User && EqualIgnoringCase(path.substr(0, verb.size()), verb) &&
+         (path.size() == verb.size() || path[verb.size()] == u'\\');
 }
 
-bool IsVerbCommand(const KeyPlace& key) {
-  return EqualIgnoringCase(key.Path, VerbCommandKey(RegistryRoot::CurrentUser));
+// The path in a command. Empty if the text isn't one.
+Text ProgramOf(const RegistryValue& value) {
+  const auto* command = std::get_if<Text>(&value);
+  const Text form = VerbCommand(u"");
+  const TextView begin = TextView(form).substr(0, 1);
+  const TextView end = TextView(form).substr(1);
+  if (command == nullptr || command->size() < form.size() || !command->starts_with(begin) ||
+      !command->ends_with(end)) {
+    return {};
+  }
+  return command->substr(begin.size(), command->size() - form.size());
 }
 
 }  // namespace
-
-TextView VerbKey(RegistryRoot root) {
-  return root == RegistryRoot::ClassesRoot ? ClassesVerbKey : UserVerbKey;
-}
-
-Text VerbCommandKey(RegistryRoot root) {
-  return Text(VerbKey(root)).append(u"\\command");
-}
-
-Text VerbCommand(TextView programPath) {
-  return Text(u"\"").append(programPath).append(CommandEnd);
-}
-
-Text ProgramOfVerbCommand(TextView command) {
-  if (!command.starts_with(u'"') || !command.ends_with(CommandEnd) ||
-      command.size() < 1 + CommandEnd.size()) {
-    return {};
-  }
-  command.remove_prefix(1);
-  command.remove_suffix(CommandEnd.size());
-  return Text(command);
-}
 
 RegistryStatus VerbRegistry::OpenKey(const KeyPlace& key) {
   if (!IsOfVerb(key)) {
@@ -85,10 +71,10 @@ RegistryStatus VerbRegistry::SetValue(const KeyPlace& key, TextView name,
   if (!IsOfVerb(key)) {
     return others_.SetValue(key, name, value);
   }
-  const auto* command = std::get_if<Text>(&value);
-  const Text program = command != nullptr ? ProgramOfVerbCommand(*command) : Text();
-  const bool isCommand = IsVerbCommand(key) && name.empty() && !program.empty();
-  return isCommand && verb_.Write(program) ? RegistryStatus::Done : RegistryStatus::Denied;
+  const Text program = ProgramOf(value);
+  const bool isCommand = EqualIgnoringCase(key.Path, VerbCommandKey(User)) && name.empty();
+  return isCommand && !program.empty() && verb_.Write(program) ? RegistryStatus::Done
+                                                               : RegistryStatus::Denied;
 }
 
 RegistryStatus VerbRegistry::DeleteValue(const KeyPlace& key, TextView name) {

@@ -1,21 +1,10 @@
-// The verb "Open with Vorlane" on folders, as keys of a registry and as what stands for them on a
-// system without one.
+// What stands for the keys of the verb on folders (verb_keys.h) where there is no registry that the
+// file managers read.
 #pragma once
 
 #include "shell/registry_calls.h"
 
 namespace vorlane {
-
-// The verb's key under the root; the program writes it for the user and tries to for the system.
-TextView VerbKey(RegistryRoot root);
-
-// The key below it whose default value is the command: the program's path in quotes, a blank and
-// "%L", where the folder will stand.
-Text VerbCommandKey(RegistryRoot root);
-Text VerbCommand(TextView programPath);
-
-// The path in a command. Empty if the text isn't one.
-Text ProgramOfVerbCommand(TextView command);
 
 // What stands for the user's verb.
 class VerbAdapter {

@@ -4,6 +4,7 @@
 
 #include "shell/registry.h"
 #include "shell/stored_registry.h"
+#include "shell/verb_keys.h"
 #include "support/memory_registry_file.h"
 #include "support/recording_prompter.h"
 #include "support/recording_verb.h"
@@ -33,12 +34,16 @@ TEST_F(VerbRegistryTest, KeysAndCommandHaveTheirForm) {
 }
 
 TEST_F(VerbRegistryTest, ACommandTellsItsProgram) {
+  const KeyPlace key{User, VerbCommandKey(User)};
   for (const Text path : {u"/usr/bin/vorlane", u"/a \"b\"/c", u"\"", u"a\" %L"}) {
-    EXPECT_EQ(ProgramOfVerbCommand(VerbCommand(path)), path);
+    EXPECT_EQ(calls_.SetValue(key, u"", VerbCommand(path)), Done);
+    EXPECT_EQ(verb_.Program, path);
   }
-  for (const Text text : {u"", u"\" %L", u"/a %L", u"\"/a\"", u"\"/a %L"}) {
-    EXPECT_EQ(ProgramOfVerbCommand(text), u"");
+  verb_.Program.clear();
+  for (const Text text : {u"", u"\" %L", u"\"\" %L", u"/a %L", u"\"/a\"", u"\"/a %L"}) {
+    EXPECT_EQ(calls_.SetValue(key, u"", text), Denied);
   }
+  EXPECT_EQ(verb_.Program, u"");
 }
 
 TEST_F(VerbRegistryTest, SettingTheCommandWritesTheVerb) {
@@ -80,7 +85,7 @@ TEST_F(VerbRegistryTest, NothingElseIsToBeHadFromIt) {
   RegistryValue value;
   EXPECT_EQ(calls_.QueryValue({User, VerbCommandKey(User)}, u"", value), NotFound);
   EXPECT_EQ(calls_.DeleteValue({User, VerbCommandKey(User)}, u""), Denied);
-  EXPECT_TRUE(calls_.SubkeysOf({User, Text(VerbKey(User))}).empty());
+  EXPECT_TRUE(calls_.SubkeysOf({User, VerbKey(User)}).empty());
   EXPECT_TRUE(calls_.ValuesOf({User, VerbCommandKey(User)}).empty());
 }
 
@@ -97,7 +102,7 @@ TEST_F(VerbRegistryTest, TheSystemsVerbIsDeniedAndQuiet) {
 }
 
 TEST_F(VerbRegistryTest, OtherKeysGoToTheOtherRegistry) {
-  const Text other = Text(VerbKey(User)).append(u"2");
+  const Text other = VerbKey(User).append(u"2");
   EXPECT_EQ(registry_.CreateNewKey(User, other), KeyDisposition::Created);
   EXPECT_EQ(registry_.SetKeyValue(User, other, u"A", u"1", RegistryType::String), Done);
   EXPECT_EQ(calls_.SubkeysOf({User, u"Software"}), std::vector<Text>{u"Classes"});
