@@ -84,6 +84,23 @@ void Program::SelectOperation(std::int32_t index) {
   });
 }
 
+void Program::Show() {
+  window_.show();
+  wildcard_.FormVisible = true;
+}
+
+void Program::ShowFolder(const Text& folder) {
+  QTimer::singleShot(0, &window_, [this, folder] {
+    gate_.Start([this, &folder] { browser_.ShowFolderBrowser(folder); });
+  });
+}
+
+Text Program::SelectedTitle() const {
+  const auto index = static_cast<std::size_t>(form_.SelectedOperation);
+  return index == 0 || index > operations_.Nodes.size() ? Text()
+                                                        : operations_.Nodes[index - 1].Title;
+}
+
 void Program::ConnectButtons() {
   const auto connect = [](QPushButton* button, std::function<void()> handler) {
     QObject::connect(button, &QPushButton::clicked, button, std::move(handler));

@@ -45,6 +45,13 @@ class Program {
   // Selects an operation as a click on it does; the first one if there is none of that index.
   void SelectOperation(std::int32_t index);
 
+  // Shows the window, and a folder in it as soon as the window can be seen.
+  void Show();
+  void ShowFolder(const Text& folder);
+
+  // What the tree calls the selected operation.
+  Text SelectedTitle() const;
+
   // Asks the jobs to stop and closes the window as soon as they have ended.
   void Close();
 
