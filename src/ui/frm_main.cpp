@@ -64,8 +64,10 @@ void FrmMain::InitLayout() {
 
 void FrmMain::RestorePlacement(const PlacementToApply& placement) {
   const QScopedValueRollback resizing(inResize_, true);
-  move(placement.Left ? PixelsOf(*placement.Left) : x(),
-       placement.Top ? PixelsOf(*placement.Top) : y());
+  if (placement.Left || placement.Top) {
+    move(placement.Left ? PixelsOf(*placement.Left) : x(),
+         placement.Top ? PixelsOf(*placement.Top) : y());
+  }
   resize(placement.Width ? PixelsOf(*placement.Width) : width(),
          placement.Height ? PixelsOf(*placement.Height) : height());
   ResizeIfChanged();

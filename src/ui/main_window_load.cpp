@@ -26,10 +26,13 @@ bool KnowsPlaces() {
 
 class WindowAtExit final : public ClosingWindow {
  public:
-  explicit WindowAtExit(FrmMain& window) : window_(window) {}
+  WindowAtExit(FrmMain& window, Settings& settings) : window_(window), settings_(settings) {}
 
+  // A width that nobody has changed stays as it was stored, finer than pixels.
   Twips ColumnWidth(Column column) override {
-    return TwipsOf(window_.Controls().FileList->header()->sectionSize(static_cast<int>(column)));
+    const int pixels = window_.Controls().FileList->header()->sectionSize(static_cast<int>(column));
+    const Twips stored = StoredColumnWidth(settings_, column);
+    return PixelsOf(stored) == pixels ? stored : TwipsOf(pixels);
   }
   bool IsMaximized() override { return window_.isMaximized(); }
   NormalPlace Placement() override {
@@ -44,6 +47,7 @@ class WindowAtExit final : public ClosingWindow {
 
  private:
   FrmMain& window_;
+  Settings& settings_;
 };
 
 void LoadColumns(Program& program, Settings& settings) {
@@ -121,7 +125,7 @@ void LoadMainWindow(Program& program, DesktopServices& services, const Text& pro
 }
 
 void UnloadMainWindow(Program& program, DesktopServices& services) {
-  WindowAtExit window(program.Window());
+  WindowAtExit window(program.Window(), services.Settings);
   SaveSettingsAtExit(program.State(), window, services.ForShutDown(),
                      FullProgramPath(services.Files, ProgramFile()));
 }

@@ -215,6 +215,12 @@ class WindowTest(unittest.TestCase):
         wait_for(lambda: self.geometry()[2:] == (1100, 600), "the old size")
         self.close()
 
+    def test_widths_that_nobody_changed_stay_as_they_were(self):
+        self.start(self.files)
+        self.close()
+        self.assertEqual(self.setting("FileNameWidth"), "4000")
+        self.assertEqual(self.setting("PathWidth"), "6000")
+
     def test_the_window_managers_close_is_an_exit(self):
         self.start(self.files)
         self.display.run("wmctrl", "-i", "-c", self.window)
@@ -232,12 +238,18 @@ class WindowTest(unittest.TestCase):
         self.assertEqual(self.ended(), 0)
         self.assertEqual(self.setting("StartPath"), f"{self.files}/")
 
-    def test_a_second_program_reads_what_the_first_one_saved(self):
+    def test_what_is_typed_is_kept_at_once_and_outlives_a_crash(self):
         self.start(self.files)
         self.click(BOX_1)
         self.keys("ctrl+a")
-        self.type("shared")
-        wait_for(lambda: self.setting("Prefix") == "shared", "the kept text")
+        self.type("shared ")
+        wait_for(lambda: self.setting("Prefix") == "shared ", "the kept text")
+        first = self.process
+        first.kill()
+        first.wait()
+        self.start(self.files)
+        self.click(GO)
+        self.names_become("shared a.txt", "b.txt", "c.mp3")
         self.close()
 
     def test_an_exit_writes_the_verb_and_context_0_takes_it_away(self):
@@ -248,15 +260,10 @@ class WindowTest(unittest.TestCase):
         self.assertIn(str(BIN / "vorlane"), entry.read_text())
         path = self.home / ".config/vorlane/registry.conf"
         text = path.read_text()
-        path.write_text(text.replace("Maximized=", "Context=sz:0\nMaximized=")
-                        .replace("Context=sz:0", self.as_setting(text, "Context", "0")))
+        path.write_text(text.replace("\nMaximized=", "\nContext=sz:0\nMaximized="))
         self.start()
         self.close()
         self.assertFalse(entry.exists())
-
-    def as_setting(self, text, key, value):
-        like = next(line for line in text.splitlines() if line.startswith("Maximized="))
-        return key + like[len("Maximized"):].split(":", 1)[0] + ":" + value
 
     def test_uninstall_without_a_display_asks_at_the_terminal(self):
         self.start(self.files)
