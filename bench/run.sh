@@ -9,6 +9,8 @@ echo "temporary files on: $(df --output=fstype,target "${TMPDIR:-/tmp}" | tail -
 echo
 "$binaries"/evaluation_bench
 echo
+"$binaries"/settings_bench
+echo
 "$binaries"/whole_job_bench
 echo
 echo "load average: $(cut -d ' ' -f 1-3 /proc/loadavg)"

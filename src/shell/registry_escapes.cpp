@@ -8,6 +8,7 @@ namespace {
 
 constexpr TextView HexDigits = u"0123456789abcdef";
 constexpr std::size_t UnitDigits = 4;
+constexpr char16_t ByteOrderMark = 0xFEFF;
 
 std::optional<std::uint32_t> DigitValue(char16_t digit) {
   if (digit >= u'0' && digit <= u'9') {
@@ -62,7 +63,7 @@ Text Escape(TextView text) {
     } else if (IsPair(text.substr(i))) {
       escaped.append(text, i, 2);
       ++i;
-    } else if (unit == 0 || IsSurrogate(unit)) {
+    } else if (unit == 0 || unit == ByteOrderMark || IsSurrogate(unit)) {
       escaped += u"\\u";
       AppendHex(escaped, unit, static_cast<int>(UnitDigits));
     } else {

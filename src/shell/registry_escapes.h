@@ -10,7 +10,7 @@
 namespace vorlane {
 
 // Any text without line breaks and valid as UTF-8: "\\", "\n" and "\r" for a backslash and the line
-// breaks, "\u" and four hex digits for U+0000 and for half of a surrogate pair.
+// breaks, "\u" and four hex digits for U+0000, the byte-order mark and half of a surrogate pair.
 Text Escape(TextView text);
 
 // The same for a name: "=", and "[" or "#" at its beginning, get a backslash in front.

@@ -10,6 +10,8 @@ namespace vorlane {
 
 namespace {
 
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
 std::optional<std::uint32_t> ReadNumberValue(TextView text) {
   const auto bytes = BytesFromText(text);
   std::uint32_t number = 0;
@@ -71,15 +73,14 @@ bool ReadValueLine(TextView line, RegistryKey& key) {
 class Reader {
  public:
   RegistryTree Read(std::string_view bytes) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (bytes.starts_with(byteOrderMark)) {
-      bytes.remove_prefix(byteOrderMark.size());
-    }
     while (!bytes.empty()) {
       const std::size_t end = std::min(bytes.find('\n'), bytes.size());
       std::string_view line = bytes.substr(0, end);
       bytes.remove_prefix(std::min(end + 1, bytes.size()));
-      if (line.ends_with('\r')) {
+      while (line.starts_with(ByteOrderMark)) {
+        line.remove_prefix(ByteOrderMark.size());
+      }
+      while (line.ends_with('\r')) {
         line.remove_suffix(1);
       }
       TakeLine(line);

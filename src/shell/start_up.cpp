@@ -48,7 +48,7 @@ Text ChooseStartFolder(FileSystem& files, Settings& settings, TextView commandLi
                        const StartPlaces& places, PathStyle style) {
   const Text stored = settings.GetSetting(SettingsSection, SettingKey::StartPath, u"");
   for (const TextView candidate : {commandLine, TextView(stored)}) {
-    const Text folder = RootedFolder(candidate, places.WorkingFolder, style);
+    Text folder = RootedFolder(candidate, places.WorkingFolder, style);
     if (!candidate.empty() && FolderExists(files, folder)) {
       return folder;
     }

@@ -120,6 +120,13 @@ TEST(RegistryText, CommentsAndLinesAboveAllSectionsStay) {
   EXPECT_TRUE(ReadRegistryText(bytes).Root.Values.empty());
 }
 
+TEST(RegistryText, MarksAndReturnsAroundALineDontCount) {
+  const std::string bytes =
+      "[K]\nnonsense\r\r\n\xEF\xBB\xBF\xEF\xBB\xBF"
+      "A=sz:1\r\r\n";
+  EXPECT_EQ(WriteRegistryText(ReadRegistryText(bytes)), "[K]\nnonsense\nA=sz:1\n");
+}
+
 TEST(RegistryText, AKeyWithoutAnythingIsKept) {
   EXPECT_EQ(WriteRegistryText(ReadRegistryText("[A\\B\\C]\n")), "[A\\B\\C]\n");
   EXPECT_EQ(WriteRegistryText(ReadRegistryText("")), "");
