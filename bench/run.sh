@@ -13,4 +13,9 @@ echo
 echo
 "$binaries"/whole_job_bench
 echo
+if [[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
+  export QT_QPA_PLATFORM=offscreen
+fi
+"$binaries"/window_bench
+echo
 echo "load average: $(cut -d ' ' -f 1-3 /proc/loadavg)"

@@ -95,6 +95,10 @@ void Program::ShowFolder(const Text& folder) {
   });
 }
 
+void Program::PreviewAll() {
+  gate_.Start([this] { events_.lblFileStatus_DblClick(); });
+}
+
 Text Program::SelectedTitle() const {
   const auto index = static_cast<std::size_t>(form_.SelectedOperation);
   return index == 0 || index > operations_.Nodes.size() ? Text()
@@ -131,9 +135,7 @@ void Program::ConnectList() {
   view.OnFolderDropped = [this](const QString& folder) {
     gate_.Start([this, path = ToText(folder)] { browser_.FolderDropped({path}); });
   };
-  window_.OnFileStatusDoubleClicked = [this] {
-    gate_.Start([this] { events_.lblFileStatus_DblClick(); });
-  };
+  window_.OnFileStatusDoubleClicked = [this] { PreviewAll(); };
 }
 
 void Program::ConnectTrees() {

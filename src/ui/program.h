@@ -49,6 +49,9 @@ class Program {
   void Show();
   void ShowFolder(const Text& folder);
 
+  // Previews every row on demand.
+  void PreviewAll();
+
   // What the tree calls the selected operation.
   Text SelectedTitle() const;
 
