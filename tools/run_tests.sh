@@ -3,6 +3,7 @@
 # a static check counts as one, a test program as the number of its tests.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+export LSAN_OPTIONS="suppressions=$PWD/tests/leaks.supp:print_suppressions=0"
 passed=0
 failed=0
 
