@@ -16,8 +16,8 @@ std::size_t ID3v2ReadLength(std::string_view fileStart);
 
 // The tag of a file that begins with these bytes, as many as ID3v2ReadLength tells; more are not
 // looked at, missing ones count as NULs. The empty record if there is no tag. Throws RunError: 6
-// for a genre that doesn't fit 16 bits, 5 for a frame whose size byte lies behind the last byte
-// looked at. Cost: linear in the bytes that are given.
+// for a genre that doesn't fit 16 bits, 5 for a frame other than the genre's whose size byte lies
+// behind the last byte looked at. Cost: linear in the bytes that are given, which aren't copied.
 ID3Tag ParseID3v2(std::string_view fileStart);
 
 }  // namespace vorlane
