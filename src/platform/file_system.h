@@ -139,7 +139,8 @@ class FileSystem {
   // The whole file. Throws RunError if it can't be opened or read.
   virtual std::string ReadFileBytes(TextView path) = 0;
 
-  // Throws RunError if it isn't a regular file or can't be opened; never creates one.
+  // Throws RunError if it isn't a regular file, can't be opened or is read-only and to be written;
+  // never creates one.
   virtual std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) = 0;
 
   // One step, atomic, for files and folders; a link is renamed as a link. An existing target of any
@@ -155,8 +156,8 @@ class FileSystem {
   // Makes a new file with these bytes. Throws RunError 58 if the name is taken by anything.
   virtual void CreateFile(TextView path, std::string_view bytes) = 0;
 
-  // Adds bytes to the end of an existing file, all or none: what a failed write left is cut off
-  // again. Doesn't follow a link. Opens and closes the file. Throws RunError.
+  // Adds bytes to the end of an existing file that isn't read-only, all or none: what a failed
+  // write left is cut off again. Doesn't follow a link. Opens and closes the file. Throws RunError.
   virtual void AppendToFile(TextView path, std::string_view bytes) = 0;
 
   // Removes a file or link, never a folder. True if it is gone by this call.

@@ -5,6 +5,8 @@
 
 #include <cerrno>
 
+#include "platform/posix_status.h"
+
 namespace vorlane {
 
 int FileHandle::Close() {
@@ -15,15 +17,20 @@ int FileHandle::Close() {
 
 namespace {
 
-// 0 or errno. The kind and the size are all that is asked: once a program has asked for the times
-// of a file, the next write to it costs the system more.
-int LookAtRegularFile(int descriptor, const char* path, int flags, std::uint64_t& size) {
+// 0 or errno. Neither more nor less is asked than what is needed: once a program has asked for the
+// times of a file, the next write to it costs the system more.
+int LookAtRegularFile(int descriptor, const char* path, int lookFlags, int openFlags,
+                      std::uint64_t& size) {
   struct statx status {};
-  if (statx(descriptor, path, flags, STATX_TYPE | STATX_SIZE, &status) != 0) {
+  if (statx(descriptor, path, lookFlags, STATX_TYPE | STATX_MODE | STATX_SIZE, &status) != 0) {
     return errno;
   }
   size = status.stx_size;
-  return S_ISREG(status.stx_mode) ? 0 : EINVAL;
+  if (!S_ISREG(status.stx_mode)) {
+    return EINVAL;
+  }
+  const bool forWriting = (openFlags & O_ACCMODE) != O_RDONLY;
+  return forWriting && NobodyMayWrite(status.stx_mode) ? EACCES : 0;
 }
 
 }  // namespace
@@ -31,13 +38,13 @@ int LookAtRegularFile(int descriptor, const char* path, int flags, std::uint64_t
 OpenedFile OpenRegularFile(const std::string& path, int flags) {
   OpenedFile file;
   const int follow = (flags & O_NOFOLLOW) != 0 ? AT_SYMLINK_NOFOLLOW : 0;
-  file.Error = LookAtRegularFile(AT_FDCWD, path.c_str(), follow, file.Size);
+  file.Error = LookAtRegularFile(AT_FDCWD, path.c_str(), follow, flags, file.Size);
   if (file.Error != 0) {
     return file;
   }
   FileHandle handle(open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   file.Error = handle.IsOpen()
-                   ? LookAtRegularFile(handle.Descriptor(), "", AT_EMPTY_PATH, file.Size)
+                   ? LookAtRegularFile(handle.Descriptor(), "", AT_EMPTY_PATH, flags, file.Size)
                    : errno;
   if (file.Error == 0) {
     file.Handle = std::move(handle);

@@ -42,7 +42,8 @@ struct OpenedFile {
 
 // Opens what exists and is a regular file. It is looked at before it is opened, because opening a
 // device or a pipe is an act in itself, and after, because it may have been exchanged meanwhile.
-// With O_NOFOLLOW a link is refused.
+// With O_NOFOLLOW a link is refused. A read-only file isn't opened for writing, not even by the
+// superuser, to whom the system would give it.
 OpenedFile OpenRegularFile(const std::string& path, int flags);
 
 // The failure that an errno of an operation on a file stands for.

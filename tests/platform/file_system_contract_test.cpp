@@ -389,6 +389,19 @@ TEST_P(FileSystemContract, OnlyAnExistingFileIsOpened) {
   EXPECT_EQ(disk_->Contents(), before);
 }
 
+TEST_P(FileSystemContract, AReadOnlyFileIsReadButNotWritten) {
+  disk_->Write(u"file", "content");
+  disk_->MakeLink(u"link", u"file");
+  disk_->SetReadOnly(u"file");
+  const auto before = disk_->Contents();
+  for (const TextView name : {u"file", u"link"}) {
+    EXPECT_EQ(files_.Open(P(name), OpenMode::Read)->ReadAt(0, 7), "content");
+    EXPECT_EQ(FailureOf([&] { files_.Open(P(name), OpenMode::ReadWrite); }), 70);
+  }
+  EXPECT_EQ(FailureOf([&] { files_.AppendToFile(P(u"file"), "x"); }), 70);
+  EXPECT_EQ(disk_->Contents(), before);
+}
+
 TEST_P(FileSystemContract, ReadsAtAnyPosition) {
   disk_->Write(u"file", "0123456789");
   const auto file = files_.Open(P(u"file"), OpenMode::Read);
