@@ -84,7 +84,7 @@ enum class OpenMode {
   ReadWrite,  // an existing file, changed in place: same inode
 };
 
-// An open regular file. Positions count from 0. Closed by its destructor.
+// An open regular file. Positions count from 0. Closed by its destructor, if nobody did it before.
 class OpenFile {
  public:
   virtual ~OpenFile() = default;
@@ -99,6 +99,10 @@ class OpenFile {
 
   // Cuts the file, or lengthens it with NULs. Throws RunError.
   virtual void SetSize(std::uint64_t size) = 0;
+
+  // For whoever has written: throws RunError if the system tells only now that it couldn't store
+  // what it had taken. Nothing else can be done with the file after this.
+  virtual void Close() = 0;
 };
 
 class FileSystem {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <exception>
+#include <limits>
 #include <tuple>
 
 #include "platform/failure.h"
@@ -69,17 +70,9 @@ std::string ReadBytes(int descriptor, std::uint64_t position, std::uint64_t leng
 
 // 0 or errno.
 int WriteBytes(int descriptor, std::uint64_t position, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t count = Uninterrupted([&] {
-      return pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(position));
-    });
-    if (count < 0) {
-      return errno;
-    }
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-    position += static_cast<std::uint64_t>(count);
-  }
-  return 0;
+  return WriteAll(position, bytes, [descriptor](std::string_view rest, std::uint64_t place) {
+    return pwrite(descriptor, rest.data(), rest.size(), static_cast<off_t>(place));
+  });
 }
 
 class PosixOpenFile final : public OpenFile {
@@ -95,13 +88,16 @@ class PosixOpenFile final : public OpenFile {
   }
 
   std::string ReadAt(std::uint64_t position, std::size_t length) override {
-    // The size is asked first so that a wild length costs no memory.
-    const std::uint64_t size = Size();
-    if (position >= size) {
-      return {};
+    constexpr std::size_t tamed = std::size_t{1} << 16;
+    constexpr std::uint64_t endOfAny = std::numeric_limits<off_t>::max();
+    if (length > tamed) {
+      // The size is asked first so that a wild length costs no memory.
+      const std::uint64_t size = Size();
+      length = static_cast<std::size_t>(
+          std::min<std::uint64_t>(length, size - std::min(position, size)));
     }
-    return ReadBytes(handle_.Descriptor(), position,
-                     std::min<std::uint64_t>(length, size - position));
+    return position > endOfAny - tamed ? std::string()
+                                       : ReadBytes(handle_.Descriptor(), position, length);
   }
 
   void WriteAt(std::uint64_t position, std::string_view bytes) override {
@@ -114,6 +110,13 @@ class PosixOpenFile final : public OpenFile {
   void SetSize(std::uint64_t size) override {
     if (ftruncate(handle_.Descriptor(), static_cast<off_t>(size)) != 0) {
       ThrowErrno(errno);
+    }
+  }
+
+  void Close() override {
+    const int error = handle_.Close();
+    if (error != 0) {
+      ThrowErrno(error);
     }
   }
 

@@ -52,6 +52,22 @@ OpenedFile OpenRegularFile(const std::string& path, int flags) {
   return file;
 }
 
+int WriteAll(std::uint64_t position, std::string_view bytes, const WriteCall& write) {
+  while (!bytes.empty()) {
+    const ssize_t count = write(bytes, position);
+    if (count < 0 && errno == EINTR) {
+      continue;
+    }
+    if (count <= 0) {
+      // A call that does nothing and gives no reason would do nothing for ever.
+      return count < 0 ? errno : EIO;
+    }
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+    position += static_cast<std::uint64_t>(count);
+  }
+  return 0;
+}
+
 ErrorNumber FailureOfErrno(int error) {
   switch (error) {
     case ENOENT:

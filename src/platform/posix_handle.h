@@ -3,9 +3,12 @@
 #pragma once
 
 #include <fcntl.h>
+#include <sys/types.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/failure.h"
@@ -45,6 +48,11 @@ struct OpenedFile {
 // With O_NOFOLLOW a link is refused. A read-only file isn't opened for writing, not even by the
 // superuser, to whom the system would give it.
 OpenedFile OpenRegularFile(const std::string& path, int flags);
+
+// Writes all bytes by as many calls of `write` as it takes; it gets what is left and its place in
+// the file, and answers as pwrite does. 0 or errno.
+using WriteCall = std::function<ssize_t(std::string_view bytes, std::uint64_t position)>;
+int WriteAll(std::uint64_t position, std::string_view bytes, const WriteCall& write);
 
 // The failure that an errno of an operation on a file stands for.
 ErrorNumber FailureOfErrno(int error);

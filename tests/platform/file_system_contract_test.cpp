@@ -441,6 +441,18 @@ TEST_P(FileSystemContract, WritesInPlace) {
   EXPECT_EQ(disk_->Contents().count("link@"), 1U);
 }
 
+TEST_P(FileSystemContract, AClosedFileIsNobodysAnyMore) {
+  disk_->Write(u"file", "content");
+  const auto file = files_.Open(P(u"file"), OpenMode::ReadWrite);
+  file->WriteAt(0, "C");
+  EXPECT_TRUE(files_.UseOf(P(u"file")).InUse);
+  file->Close();
+  EXPECT_FALSE(files_.UseOf(P(u"file")).InUse);
+  EXPECT_NE(FailureOf([&] { file->WriteAt(0, "x"); }), 0);
+  EXPECT_NE(FailureOf([&] { file->SetSize(0); }), 0);
+  EXPECT_EQ(files_.ReadFileBytes(P(u"file")), "Content");
+}
+
 TEST_P(FileSystemContract, AFileOpenedForReadingIsntWritten) {
   disk_->Write(u"file", "content");
   const auto file = files_.Open(P(u"file"), OpenMode::Read);

@@ -24,7 +24,8 @@ namespace vorlane {
 enum class LetterCase { Matters, Ignored };
 
 struct CallInfo {
-  Text Method;  // as in FileSystem, or "Size", "ReadAt", "WriteAt", "SetSize" of an open file
+  Text Method;  // as in FileSystem, or "Size", "ReadAt", "WriteAt", "SetSize", "Close" of an open
+                // file
   Text Path;
   Text Target;                     // of a rename
   bool Mutating = false;           // the call is meant to change something

@@ -56,6 +56,7 @@ class OneFile final : public FileSystem {
     }
     void WriteAt(std::uint64_t, std::string_view) override { throw std::logic_error("WriteAt"); }
     void SetSize(std::uint64_t) override { throw std::logic_error("SetSize"); }
+    void Close() override { throw std::logic_error("Close"); }
 
    private:
     OneFile& owner_;
