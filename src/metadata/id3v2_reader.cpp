@@ -124,7 +124,7 @@ std::size_t ID3v2ReadLength(std::string_view fileStart) {
   if (!HasID3v2Header(fileStart)) {
     return 0;
   }
-  return static_cast<std::size_t>(std::max(DeclaredTagSize(fileStart), MinimumTagSize)) + 1;
+  return std::max(static_cast<std::size_t>(DeclaredTagSize(fileStart)) + 1, MinimumID3v2ReadLength);
 }
 
 ID3Tag ParseID3v2(std::string_view fileStart) {

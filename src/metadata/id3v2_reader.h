@@ -10,8 +10,12 @@
 
 namespace vorlane {
 
+// The least that is looked at of a file with a tag, as a smaller one is taken to be of 257 bytes.
+inline constexpr std::size_t MinimumID3v2ReadLength = 258;
+
 // How many bytes from the start of a file ParseID3v2 looks at, for a file that begins with these
-// (ten or more) bytes: one more than the tag's size and at least 258; 0 if there is no tag.
+// (ten or more) bytes: one more than the tag's size and at least MinimumID3v2ReadLength; 0 if there
+// is no tag.
 std::size_t ID3v2ReadLength(std::string_view fileStart);
 
 // The tag of a file that begins with these bytes, as many as ID3v2ReadLength tells; more are not

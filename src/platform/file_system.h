@@ -147,6 +147,10 @@ class FileSystem {
   // never creates one.
   virtual std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) = 0;
 
+  // For reading, if PlainFileExists; otherwise null. Throws RunError if it can't be opened. The
+  // same as the two questions one after the other, for whoever opens row after row.
+  virtual std::unique_ptr<OpenFile> OpenPlainFile(TextView path);
+
   // One step, atomic, for files and folders; a link is renamed as a link. An existing target of any
   // kind is never replaced. Both paths on one volume, otherwise Refused.
   virtual RenameOutcome RenameNoReplace(TextView from, TextView to) = 0;

@@ -13,6 +13,7 @@
 #include "platform/file_name_bytes.h"
 #include "platform/posix_file_system.h"
 #include "platform/posix_handle.h"
+#include "platform/posix_status.h"
 
 namespace vorlane {
 
@@ -133,6 +134,21 @@ std::string PosixFileSystem::ReadFileBytes(TextView path) {
 
 std::unique_ptr<OpenFile> PosixFileSystem::Open(TextView path, OpenMode mode) {
   auto file = OpenOrThrow(path, mode == OpenMode::Read ? O_RDONLY : O_RDWR);
+  return std::make_unique<PosixOpenFile>(std::move(file.Handle));
+}
+
+std::unique_ptr<OpenFile> PosixFileSystem::OpenPlainFile(TextView path) {
+  const auto bytes = BytesFromText(path);
+  if (!bytes || IsHiddenPath(path)) {
+    return nullptr;
+  }
+  auto file = OpenRegularFile(*bytes, O_RDONLY);
+  if (!file.WasThere) {
+    return nullptr;
+  }
+  if (!file.Handle.IsOpen()) {
+    ThrowErrno(file.Error);
+  }
   return std::make_unique<PosixOpenFile>(std::move(file.Handle));
 }
 

@@ -28,6 +28,7 @@ class PosixFileSystem : public FileSystem {
   EntryUse UseOf(TextView path) override;
   std::string ReadFileBytes(TextView path) override;
   std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) override;
+  std::unique_ptr<OpenFile> OpenPlainFile(TextView path) override;
   RenameOutcome RenameNoReplace(TextView from, TextView to) override;
   bool CreateFolder(TextView path) override;
   bool RemoveFolder(TextView path) override;

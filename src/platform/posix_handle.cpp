@@ -42,6 +42,7 @@ OpenedFile OpenRegularFile(const std::string& path, int flags) {
   if (file.Error != 0) {
     return file;
   }
+  file.WasThere = true;
   FileHandle handle(open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   file.Error = handle.IsOpen()
                    ? LookAtRegularFile(handle.Descriptor(), "", AT_EMPTY_PATH, flags, file.Size)

@@ -39,6 +39,7 @@ class FileHandle {
 
 struct OpenedFile {
   FileHandle Handle;       // not open after a failure
+  bool WasThere = false;   // a regular file, by the look before it was opened
   std::uint64_t Size = 0;  // of the open file
   int Error = 0;           // the errno of a failure
 };

@@ -389,6 +389,25 @@ TEST_P(FileSystemContract, OnlyAnExistingFileIsOpened) {
   EXPECT_EQ(disk_->Contents(), before);
 }
 
+TEST_P(FileSystemContract, APlainFileIsOpenedAndNothingElse) {
+  MakeOneOfEach();
+  disk_->Write(u"UNDORENAME.TXT");
+  for (const TextView name : {u"file", u"link"}) {
+    const auto file = files_.OpenPlainFile(P(name));
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->ReadAt(0, 10), "content");
+    EXPECT_NE(FailureOf([&] { file->WriteAt(0, "x"); }), 0);
+  }
+  for (const TextView name : {u"folder", u"dangling", u"other", u".hidden", u"UNDORENAME.TXT",
+                              u"missing", u"missing/deeper", u"file/"}) {
+    EXPECT_EQ(files_.OpenPlainFile(P(name)), nullptr) << testing::PrintToString(name);
+  }
+  EXPECT_EQ(files_.OpenPlainFile(u""), nullptr);
+  for (const Text& name : ImpossibleNames) {
+    EXPECT_EQ(files_.OpenPlainFile(P(name)), nullptr);
+  }
+}
+
 TEST_P(FileSystemContract, AReadOnlyFileIsReadButNotWritten) {
   disk_->Write(u"file", "content");
   disk_->MakeLink(u"link", u"file");
