@@ -196,6 +196,32 @@ TEST(UndoTags, ABrokenFieldEndsTheUndo) {
   }
 }
 
+// The bar that a year holds isn't told from those between the fields.
+TEST(UndoTags, ABarInTheYearShiftsTheFields) {
+  struct Case {
+    std::string Year;
+    bool Renames;
+    int Failure;
+  };
+  const Case cases[] = {
+      {"1|99", true, 0},
+      {"1|99", false, 0},  // a new name that no file has, and a genre of 99
+      {"19|", true, 0},
+      {"19|", false, 13},  // a genre that is none
+  };
+  for (const Case& c : cases) {
+    SongWorld on(Audio(500) + V1("Title", "Artist", "Album", c.Year, "Note", 7, 17));
+    on.Run(c.Renames ? std::vector<Text>{u"<RemoveID3v1>", u"new<EXTONLY>"}
+                     : std::vector<Text>{u"<RemoveID3v1>"});
+    on.Undo();
+    EXPECT_EQ(
+        on.Disk.Contents(u"/R/"),
+        (std::map<std::string, std::string>{{c.Renames ? "new.mp3" : "song.mp3", Audio(500)}}));
+    EXPECT_EQ(on.World.Report.Reports,
+              c.Failure == 0 ? Reports{} : (Reports{{u"frmMain", u"cmdUndo_Click", u"", 13}}));
+  }
+}
+
 TEST(UndoTags, OddFieldsThatCanBeReadDoNotEndIt) {
   const std::pair<std::string, std::string> cases[] = {
       {"1|1|41||||||0", "A"},        // any number but zero is true
