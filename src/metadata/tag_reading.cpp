@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "metadata/bit_rate.h"
 #include "metadata/id3v1.h"
@@ -15,8 +16,9 @@ namespace {
 // A file that is opened when it is first read.
 class FileInHand {
  public:
-  FileInHand(FileSystem& files, FailureReport& report, TextView path)
-      : files_(files), report_(report), path_(path) {}
+  FileInHand(FileSystem& files, FailureReport& report, TextView path,
+             std::unique_ptr<OpenFile> opened = nullptr)
+      : files_(files), report_(report), path_(path), file_(std::move(opened)) {}
 
   // The result of `read` for the open file, the empty one if there is no file or anything fails.
   template <typename Read>
@@ -70,8 +72,9 @@ ID3Tag ReadID3v2(FileSystem& files, FailureReport& report, TextView path) {
   return FileInHand(files, report, path).V2();
 }
 
-ID3Tags ReadID3Tags(FileSystem& files, FailureReport& report, TextView path) {
-  FileInHand file(files, report, path);
+ID3Tags ReadID3Tags(FileSystem& files, FailureReport& report, TextView path,
+                    std::unique_ptr<OpenFile> opened) {
+  FileInHand file(files, report, path, std::move(opened));
   ID3Tags tags;
   tags.V1 = file.V1();
   tags.V2 = file.V2();

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "metadata/id3_tag.h"
 #include "platform/failure.h"
@@ -26,8 +27,10 @@ struct ID3Tags {
 };
 
 // ReadID3v1 and ReadID3v2 with one opening of the file. Each failure is reported under the name of
-// the operation that met it; a file that can't be opened is one of either.
-ID3Tags ReadID3Tags(FileSystem& files, FailureReport& report, TextView path);
+// the operation that met it; a file that can't be opened is one of either. `opened` is the file, if
+// it is open already.
+ID3Tags ReadID3Tags(FileSystem& files, FailureReport& report, TextView path,
+                    std::unique_ptr<OpenFile> opened = nullptr);
 
 // In kbit/s. Reads the first 10,003 bytes.
 std::int16_t GetKbit(FileSystem& files, FailureReport& report, TextView path);

@@ -41,12 +41,6 @@ struct EntryStatus {
   std::uint64_t Size = 0;  // bytes; 0 for anything but a regular file
 };
 
-// Whether an entry may be renamed now.
-struct EntryUse {
-  EntryStatus Status;
-  bool InUse = false;  // only looked for in a regular file that is neither hidden nor read-only
-};
-
 // Tells whether two names are the same entry.
 struct FileIdentity {
   std::uint64_t Device = 0;
@@ -89,6 +83,7 @@ class OpenFile {
  public:
   virtual ~OpenFile() = default;
 
+  // Now; of a file that is open for reading alone, when it was opened.
   virtual std::uint64_t Size() = 0;
 
   // Up to `length` bytes from `position`; fewer at the end of the file. Throws RunError.
@@ -103,6 +98,13 @@ class OpenFile {
   // For whoever has written: throws RunError if the system tells only now that it couldn't store
   // what it had taken. Nothing else can be done with the file after this.
   virtual void Close() = 0;
+};
+
+// Whether an entry may be renamed now.
+struct EntryUse {
+  EntryStatus Status;
+  bool InUse = false;  // only looked for in a regular file that is neither hidden nor read-only
+  std::unique_ptr<OpenFile> File{};  // open for reading, where that was asked for
 };
 
 class FileSystem {
@@ -139,6 +141,10 @@ class FileSystem {
   // or fcntl. A file that can't be opened isn't in use. One question, since it is asked for each
   // row of a list of files, and the file has to be opened but once to answer both.
   virtual EntryUse UseOf(TextView path) = 0;
+
+  // The same, and the file in which InUse was looked for is left open if nobody holds it, for
+  // whoever reads it next. It may be null all the same.
+  virtual EntryUse UseAndOpen(TextView path) { return UseOf(path); }
 
   // The whole file. Throws RunError if it can't be opened or read.
   virtual std::string ReadFileBytes(TextView path) = 0;

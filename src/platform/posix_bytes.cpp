@@ -78,9 +78,13 @@ int WriteBytes(int descriptor, std::uint64_t position, std::string_view bytes) {
 
 class PosixOpenFile final : public OpenFile {
  public:
-  explicit PosixOpenFile(FileHandle handle) : handle_(std::move(handle)) {}
+  PosixOpenFile(FileHandle handle, OpenMode mode, std::uint64_t size)
+      : handle_(std::move(handle)), mode_(mode), sizeAtFirst_(size) {}
 
   std::uint64_t Size() override {
+    if (mode_ == OpenMode::Read) {
+      return sizeAtFirst_;
+    }
     struct stat status {};
     if (fstat(handle_.Descriptor(), &status) != 0) {
       ThrowErrno(errno);
@@ -123,9 +127,15 @@ class PosixOpenFile final : public OpenFile {
 
  private:
   FileHandle handle_;
+  OpenMode mode_;
+  std::uint64_t sizeAtFirst_;
 };
 
 }  // namespace
+
+std::unique_ptr<OpenFile> MakeReadableFile(FileHandle handle, std::uint64_t size) {
+  return std::make_unique<PosixOpenFile>(std::move(handle), OpenMode::Read, size);
+}
 
 std::string PosixFileSystem::ReadFileBytes(TextView path) {
   const auto file = OpenOrThrow(path, O_RDONLY);
@@ -134,7 +144,7 @@ std::string PosixFileSystem::ReadFileBytes(TextView path) {
 
 std::unique_ptr<OpenFile> PosixFileSystem::Open(TextView path, OpenMode mode) {
   auto file = OpenOrThrow(path, mode == OpenMode::Read ? O_RDONLY : O_RDWR);
-  return std::make_unique<PosixOpenFile>(std::move(file.Handle));
+  return std::make_unique<PosixOpenFile>(std::move(file.Handle), mode, file.Size);
 }
 
 std::unique_ptr<OpenFile> PosixFileSystem::OpenPlainFile(TextView path) {
@@ -149,7 +159,7 @@ std::unique_ptr<OpenFile> PosixFileSystem::OpenPlainFile(TextView path) {
   if (!file.Handle.IsOpen()) {
     ThrowErrno(file.Error);
   }
-  return std::make_unique<PosixOpenFile>(std::move(file.Handle));
+  return MakeReadableFile(std::move(file.Handle), file.Size);
 }
 
 void PosixFileSystem::CreateFile(TextView path, std::string_view bytes) {
@@ -176,7 +186,14 @@ void PosixFileSystem::CreateFile(TextView path, std::string_view bytes) {
 }
 
 void PosixFileSystem::AppendToFile(TextView path, std::string_view bytes) {
-  auto file = OpenOrThrow(path, O_WRONLY | O_APPEND | O_NOFOLLOW);
+  const auto pathBytes = BytesFromText(path);
+  if (!pathBytes) {
+    throw RunError(ErrorNumber::FileNotFound);
+  }
+  auto file = OpenKnownFile(*pathBytes, O_WRONLY | O_APPEND | O_NOFOLLOW);
+  if (!file.Handle.IsOpen()) {
+    ThrowErrno(file.Error);
+  }
   const int descriptor = file.Handle.Descriptor();
   const auto oldSize = static_cast<off_t>(file.Size);
   const ssize_t count =
@@ -189,7 +206,7 @@ void PosixFileSystem::AppendToFile(TextView path, std::string_view bytes) {
   }
   const int error = file.Handle.Close();
   if (error != 0) {
-    std::ignore = truncate(BytesFromText(path)->c_str(), oldSize);
+    std::ignore = truncate(pathBytes->c_str(), oldSize);
     ThrowErrno(error);
   }
 }

@@ -36,13 +36,19 @@ int LookAtRegularFile(int descriptor, const char* path, int lookFlags, int openF
 }  // namespace
 
 OpenedFile OpenRegularFile(const std::string& path, int flags) {
-  OpenedFile file;
+  std::uint64_t size = 0;
   const int follow = (flags & O_NOFOLLOW) != 0 ? AT_SYMLINK_NOFOLLOW : 0;
-  file.Error = LookAtRegularFile(AT_FDCWD, path.c_str(), follow, flags, file.Size);
-  if (file.Error != 0) {
-    return file;
+  const int error = LookAtRegularFile(AT_FDCWD, path.c_str(), follow, flags, size);
+  if (error != 0) {
+    return {.Error = error};
   }
+  auto file = OpenKnownFile(path, flags);
   file.WasThere = true;
+  return file;
+}
+
+OpenedFile OpenKnownFile(const std::string& path, int flags) {
+  OpenedFile file;
   FileHandle handle(open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   file.Error = handle.IsOpen()
                    ? LookAtRegularFile(handle.Descriptor(), "", AT_EMPTY_PATH, flags, file.Size)

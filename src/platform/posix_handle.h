@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/failure.h"
+#include "platform/file_system.h"
 
 namespace vorlane {
 
@@ -38,7 +39,7 @@ class FileHandle {
 };
 
 struct OpenedFile {
-  FileHandle Handle;       // not open after a failure
+  FileHandle Handle{};     // not open after a failure
   bool WasThere = false;   // a regular file, by the look before it was opened
   std::uint64_t Size = 0;  // of the open file
   int Error = 0;           // the errno of a failure
@@ -49,6 +50,12 @@ struct OpenedFile {
 // With O_NOFOLLOW a link is refused. A read-only file isn't opened for writing, not even by the
 // superuser, to whom the system would give it.
 OpenedFile OpenRegularFile(const std::string& path, int flags);
+
+// The same without the first look: for a file that has been seen to be regular.
+OpenedFile OpenKnownFile(const std::string& path, int flags);
+
+// A file that is open for reading.
+std::unique_ptr<OpenFile> MakeReadableFile(FileHandle handle, std::uint64_t size);
 
 // Writes all bytes by as many calls of `write` as it takes; it gets what is left and its place in
 // the file, and answers as pwrite does. 0 or errno.

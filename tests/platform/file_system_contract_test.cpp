@@ -348,6 +348,32 @@ TEST_P(FileSystemContract, UseTellsTheStatusToo) {
   EXPECT_EQ(files_.UseOf(u"").Status.Kind, EntryKind::None);
 }
 
+TEST_P(FileSystemContract, AFileThatNobodyHoldsStaysOpenIfThatIsAskedFor) {
+  MakeOneOfEach();
+  disk_->Write(u"held", "content");
+  disk_->Write(u"read-only", "content");
+  disk_->SetReadOnly(u"read-only");
+  const auto holder = files_.Open(P(u"held"), OpenMode::ReadWrite);
+  std::vector<Text> names(std::begin(EachKind), std::end(EachKind));
+  names.insert(names.end(), std::begin(ImpossibleNames), std::end(ImpossibleNames));
+  names.insert(names.end(), {u"held", u"read-only", u"missing", u"file/", u".", u".."});
+  for (const Text& name : names) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    const auto use = files_.UseAndOpen(P(name));
+    const auto known = files_.UseOf(P(name));
+    EXPECT_EQ(use.Status.Kind, known.Status.Kind);
+    EXPECT_EQ(use.Status.ReadOnly, known.Status.ReadOnly);
+    EXPECT_EQ(use.InUse, known.InUse);
+    EXPECT_EQ(known.File, nullptr);
+    ASSERT_EQ(use.File != nullptr, name == u"file" || name == u"link");
+    if (use.File) {
+      EXPECT_EQ(use.File->Size(), 7U);
+      EXPECT_EQ(use.File->ReadAt(1, 3), "ont");
+      EXPECT_NE(FailureOf([&] { use.File->WriteAt(0, "x"); }), 0);
+    }
+  }
+}
+
 TEST_P(FileSystemContract, UseIsntLookedForInHiddenAndReadOnlyFiles) {
   disk_->Write(u".hidden");
   disk_->Write(u"read-only");

@@ -232,6 +232,17 @@ class MemoryFileSystem::Handle final : public OpenFile {
   bool isWriter_;  // until it is closed
 };
 
+EntryUse MemoryFileSystem::UseAndOpen(TextView path) {
+  EntryUse use = UseOf(path);
+  const auto node = tree_.Resolve(path);
+  const EntryStatus& status = use.Status;
+  if (status.Kind == EntryKind::File && !status.Hidden && !status.ReadOnly && !use.InUse &&
+      !node->Unreadable) {
+    use.File = std::make_unique<Handle>(*this, node, path, OpenMode::Read);
+  }
+  return use;
+}
+
 MemoryNodePointer MemoryFileSystem::ReadableFile(TextView path) const {
   const auto node = tree_.Resolve(path);
   if (!node) {

@@ -105,6 +105,7 @@ class MemoryFileSystem final : public FileSystem {
   std::vector<Text> ListNames(TextView folder) override;
   std::optional<FileTimes> TimesOf(TextView path) override;
   EntryUse UseOf(TextView path) override;
+  EntryUse UseAndOpen(TextView path) override;
   std::string ReadFileBytes(TextView path) override;
   std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) override;
   RenameOutcome RenameNoReplace(TextView from, TextView to) override;
