@@ -64,6 +64,7 @@ replay() { # replay PRESET
   local bin=build/$1/bin seeds target
   for target in "$bin"/*_replay; do
     case $(basename "$target") in
+    id3v2_write*) seeds=fuzz/corpus/id3v2_write ;;
     id3*) seeds=tests/data/id3 ;;
     exif*) seeds=tests/data/exif ;;
     catalogue*) seeds="fuzz/corpus/catalogue data" ;;
