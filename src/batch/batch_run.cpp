@@ -113,8 +113,8 @@ void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
   ScrollTo(row, rowsPerPage);
   if (form_.DoAll) {
     form_.SelectRow(row);
-  } else if (form_.IsTimerRunning(FormTimer::AutoPreview)) {
-    // What was typed a moment ago counts, though its preview hasn't come yet.
+  } else if (form_.IsTimerRunning(FormTimer::AutoPreview) || form_.ProposalsOutdated) {
+    // What was typed or picked a moment ago counts, though its preview hasn't come to its end.
     form_.StopTimer(FormTimer::AutoPreview);
     preview_.UpdateFilePreviewAll(false, row);
   }

@@ -12,6 +12,7 @@ constexpr int HelpText = TextNumber::FirstToolTip + 14;
 
 void OperationSelection::lstRenamingOperations_NodeClick() {
   bool wildcardChanged = false;
+  form_.ProposalsOutdated = true;
   {
     std::optional<QuietBoxes> quiet;
     ReportingFailures(services_.Report, FormName, u"lstRenamingOperations_NodeClick", u"", [&] {
@@ -27,12 +28,16 @@ void OperationSelection::lstRenamingOperations_NodeClick() {
       }
       form_.SetStatusText(*keys.HelpMessage);
       form_.SetHelpToolTip(*keys.HelpMessage);
-      wildcardChanged = keys.Wildcard && *keys.Wildcard != form_.WildCard;
-      if (wildcardChanged) {
+      // A listing that waits for a pause in the typing is due as well.
+      wildcardChanged = form_.IsTimerRunning(FormTimer::UpdateList);
+      if (keys.Wildcard && *keys.Wildcard != form_.WildCard) {
         wildcard_.SetText(*keys.Wildcard);
+        wildcardChanged = true;
       }
-      // The listing below comes in the place of the one that the wildcard has set off.
-      form_.StopTimer(FormTimer::UpdateList);
+      if (keys.ReachedListing) {
+        // The listing below comes in the place of the one that the wildcard has set off.
+        form_.StopTimer(FormTimer::UpdateList);
+      }
       ShowBoxes(keys);
       if (keys.ReachedListing && wildcardChanged && form_.Jobs.ListingState == JobState::Idle) {
         list_.PathChangedEvent();

@@ -23,7 +23,6 @@ class OperationSelection {
   void lstRenamingOperations_NodeClick();
 
  private:
-  bool LoadOperation();
   void ClearBoxes();
   void ShowBoxes(const OperationKeys& keys);
   void ShowTipsAndChecks(const OperationKeys& keys);

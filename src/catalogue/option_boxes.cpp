@@ -25,6 +25,7 @@ bool OptionBoxes::AreEventsQuiet() const {
 }
 
 void OptionBoxes::txtRenameOption_Change(int box) {
+  form_.ProposalsOutdated = true;
   if (!AreEventsQuiet()) {
     ReportingFailures(services_.Report, FormName, ChangeName, u"", [&] { Change(box); });
   }

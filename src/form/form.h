@@ -56,6 +56,10 @@ class Form final : public StatusLine {
   bool SuppressBoxEvents() const { return quietBoxes_ > 0; }  // see QuietBoxes
   bool BoxEdited = false;  // the user has typed in a box since the last click on a row
 
+  // Operation or boxes have changed since the last whole preview, so that a row may propose what
+  // nobody asks for any more.
+  bool ProposalsOutdated = false;
+
   // Modes: which of each pair of buttons is visible.
   bool DoAll = false;              // otherwise one selected row
   bool ListFolders = false;        // otherwise files

@@ -73,6 +73,9 @@ void Preview::RunPass(bool all, std::int32_t row) {
   }
   form_.View.ControlEnabled(FormControl::Browse, false);
   form_.Jobs.PreviewState = JobState::Running;
+  if (row == 0) {
+    form_.ProposalsOutdated = false;
+  }
 
   Pass pass;
   pass.Code = form_.SelectedCode();
@@ -98,6 +101,7 @@ void Preview::RunPass(bool all, std::int32_t row) {
       break;
     }
   }
+  form_.ProposalsOutdated = form_.ProposalsOutdated || !IsRunning();
   FinishPass();
 }
 

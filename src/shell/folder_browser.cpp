@@ -12,6 +12,10 @@ Text RootFolder(PathStyle style) {
 
 }  // namespace
 
+bool FolderBrowser::RunIsAtWork() const {
+  return form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle;
+}
+
 void FolderBrowser::ShowFolderBrowser(TextView folder) {
   form_.CurrentPath = EnsureTrailingSeparator(folder, form_.Paths);
   SelectBrowserFolder(form_.CurrentPath);
@@ -24,8 +28,11 @@ void FolderBrowser::SelectBrowserFolder(TextView path) {
 }
 
 void FolderBrowser::SelectionChanged(TextView path) {
-  const bool runIsAtWork = form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle;
-  if (path.empty() || runIsAtWork) {
+  if (path.empty()) {
+    return;
+  }
+  if (RunIsAtWork()) {
+    tree_.ShowFolder(form_.CurrentPath);
     return;
   }
   Attempt([&] {
@@ -46,7 +53,7 @@ void FolderBrowser::SelectionChanged(TextView path) {
 }
 
 void FolderBrowser::FolderDropped(const std::vector<Text>& paths) {
-  if (paths.size() != 1 || !form_.IsIdle() || !FolderExists(services_.Files, paths.front())) {
+  if (paths.size() != 1 || RunIsAtWork() || !FolderExists(services_.Files, paths.front())) {
     return;
   }
   form_.CurrentPath = EnsureTrailingSeparator(paths.front(), form_.Paths);

@@ -32,15 +32,17 @@ class FolderBrowser {
   // The user has selected a folder; an empty path stands for a node without one and changes
   // nothing. A journal in the folder that is left goes, a folder that has vanished gives way to the
   // root, sub-folders are left out from here on, and the folder is listed. During a run or an undo
-  // nothing happens: the journal is theirs.
+  // the tree goes back to the current folder: the journal is theirs.
   void SelectionChanged(TextView path);
 
   // Files or folders were dropped on the list: exactly one folder is selected, anything else is
-  // ignored, and so is a drop while a job is at work. Here the current folder changes before it is
+  // ignored, and so is a drop during a run or an undo. Here the current folder changes before it is
   // selected: it is the journal of the dropped folder that goes.
   void FolderDropped(const std::vector<Text>& paths);
 
  private:
+  bool RunIsAtWork() const;
+
   Form& form_;
   Services& services_;
   FileList& list_;

@@ -28,7 +28,7 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole || index.row() >= rows_.Count()) {
     return {};
   }
-  return ToQString(rows_.CellText(index.row() + 1, static_cast<Column>(index.column())));
+  return ToLine(rows_.CellText(index.row() + 1, static_cast<Column>(index.column())));
 }
 
 QVariant FileListModel::headerData(int section, Qt::Orientation orientation, int role) const {

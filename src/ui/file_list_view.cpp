@@ -1,26 +1,32 @@
 #include "ui/file_list_view.h"
 
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTimer>
 #include <QUrl>
+#include <filesystem>
+
+#include "platform/file_name_bytes.h"
 
 namespace vorlane {
 
 namespace {
 
 // The one local folder that is dragged; empty for anything else.
-QString DraggedFolder(const QDropEvent& event) {
+Text DraggedFolder(const QDropEvent& event) {
   const auto urls = event.mimeData()->urls();
   if (urls.size() != 1 || !urls.front().isLocalFile()) {
     return {};
   }
-  const QString path = urls.front().toLocalFile();
-  return QFileInfo(path).isDir() ? path : QString();
+  // By its bytes: a name needn't be valid UTF-8.
+  const std::string path =
+      QByteArray::fromPercentEncoding(urls.front().path(QUrl::FullyEncoded).toLatin1())
+          .toStdString();
+  std::error_code error;
+  return std::filesystem::is_directory(path, error) ? TextFromBytes(path) : Text();
 }
 
 }  // namespace
@@ -47,7 +53,10 @@ FileListView::FileListView(QWidget* parent) : QTreeView(parent) {
       OnColumnClicked(static_cast<Column>(section));
     }
   });
-  connect(this, &QAbstractItemView::clicked, this, &FileListView::TakeClick);
+  connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
+    TakeSelection(index);
+    ClickLater();
+  });
 }
 
 void FileListView::ShowModel(QAbstractItemModel& model) {
@@ -72,11 +81,13 @@ void FileListView::ShowSelected(int row) {
     clearSelection();
     return;
   }
+  const int left = horizontalScrollBar()->value();
   const QModelIndex index = model()->index(row - 1, 0);
   if (index.isValid() &&
       (currentIndex().row() != index.row() || !selectionModel()->isSelected(index))) {
     selectionModel()->setCurrentIndex(
         index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    horizontalScrollBar()->setValue(left);
   }
 }
 
@@ -93,19 +104,30 @@ void FileListView::ShowSorting(Column key, SortOrder order) {
                                                         : Qt::DescendingOrder);
 }
 
-// Keys and clicks of the user arrive here alike.
+// A button that is pressed selects; the click comes with its release. A key is both.
 void FileListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
-  if (!showing_ && current.isValid()) {
-    TakeClick(current);
+  if (showing_ || !current.isValid()) {
+    return;
+  }
+  TakeSelection(current);
+  if (keyActs_) {
+    ClickLater();
   }
 }
 
-void FileListView::TakeClick(const QModelIndex& index) {
+void FileListView::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback acting(keyActs_, true);
+  QTreeView::keyPressEvent(event);
+}
+
+// What the rules take for selected is selected on the screen too, whatever else a key that was held
+// does to it.
+void FileListView::TakeSelection(const QModelIndex& index) {
   if (OnRowSelected) {
     OnRowSelected(index.row() + 1);
+    ShowSelected(index.row() + 1);
   }
-  ClickLater();
 }
 
 // The handler may fill the list anew, which must not happen inside the view's own handler.
@@ -123,20 +145,20 @@ void FileListView::ClickLater() {
 }
 
 void FileListView::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFolder(*event).isEmpty()) {
+  if (!DraggedFolder(*event).empty()) {
     event->acceptProposedAction();
   }
 }
 
 void FileListView::dragMoveEvent(QDragMoveEvent* event) {
-  if (!DraggedFolder(*event).isEmpty()) {
+  if (!DraggedFolder(*event).empty()) {
     event->acceptProposedAction();
   }
 }
 
 void FileListView::dropEvent(QDropEvent* event) {
-  const QString folder = DraggedFolder(*event);
-  if (folder.isEmpty()) {
+  const Text folder = DraggedFolder(*event);
+  if (folder.empty()) {
     return;
   }
   event->acceptProposedAction();

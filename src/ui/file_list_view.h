@@ -28,19 +28,21 @@ class FileListView final : public QTreeView {
   std::function<void(int row)> OnRowSelected;
   std::function<void()> OnRowClicked;
   std::function<void(Column)> OnColumnClicked;
-  std::function<void(const QString& folder)> OnFolderDropped;
+  std::function<void(const Text& folder)> OnFolderDropped;
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void TakeClick(const QModelIndex& index);
+  void TakeSelection(const QModelIndex& index);
   void ClickLater();
 
   bool showing_ = false;  // the program itself is selecting
+  bool keyActs_ = false;
   bool clickWaits_ = false;
 };
 

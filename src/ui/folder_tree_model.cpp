@@ -98,13 +98,15 @@ bool FolderTreeModel::canFetchMore(const QModelIndex& parent) const {
 }
 
 void FolderTreeModel::fetchMore(const QModelIndex& parent) {
-  Load(*NodeOf(parent), {});
+  Node& node = *NodeOf(parent);
+  Load(node, {});
+  justFetched_ = &node;
 }
 
 QVariant FolderTreeModel::data(const QModelIndex& index, int role) const {
   const Node& node = *NodeOf(index);
   if (role == Qt::DisplayRole) {
-    return node.Parent == top_.get() ? ToQString(node.Path()) : ToQString(node.Name);
+    return node.Parent == top_.get() ? ToLine(node.Path()) : ToLine(node.Name);
   }
   return role == Qt::DecorationRole ? QVariant(icon_) : QVariant();
 }
@@ -138,6 +140,12 @@ void FolderTreeModel::Refresh(const QModelIndex& folder) {
   Node& node = *NodeOf(folder);
   if (node.Loaded) {
     Load(node, {});
+  }
+}
+
+void FolderTreeModel::RefreshOpened(const QModelIndex& folder) {
+  if (std::exchange(justFetched_, nullptr) != NodeOf(folder)) {
+    Refresh(folder);
   }
 }
 

@@ -36,6 +36,10 @@ class FolderTreeModel final : public QAbstractItemModel {
   // Reads a folder again whose folders are shown: those that have gone go, new ones come.
   void Refresh(const QModelIndex& folder);
 
+  // The folder has been opened: what was read at an earlier opening may be long ago. Right behind
+  // its first reading there is nothing to do.
+  void RefreshOpened(const QModelIndex& folder);
+
  private:
   struct Node;
 
@@ -46,7 +50,8 @@ class FolderTreeModel final : public QAbstractItemModel {
 
   FileSystem& files_;
   QIcon icon_;
-  std::unique_ptr<Node> top_;  // above the root folder, not shown
+  const Node* justFetched_ = nullptr;  // by the last opening; never looked into
+  std::unique_ptr<Node> top_;          // above the root folder, not shown
 };
 
 }  // namespace vorlane

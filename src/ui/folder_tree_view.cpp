@@ -28,9 +28,8 @@ FolderTreeView::FolderTreeView(QWidget* parent, FileSystem& files)
   setEditTriggers(NoEditTriggers);
   header()->setStretchLastSection(false);
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-  // What was read at the last opening may be long ago.
   connect(this, &QTreeView::expanded, &folders_,
-          [this](const QModelIndex& folder) { folders_.Refresh(folder); });
+          [this](const QModelIndex& folder) { folders_.RefreshOpened(folder); });
 }
 
 void FolderTreeView::ShowFolder(const Text& path) {
@@ -53,11 +52,6 @@ void FolderTreeView::ScrollToCurrent() {
   constexpr int LevelsToTheLeft = 4;
   scrollTo(currentIndex(), PositionAtCenter);
   horizontalScrollBar()->setValue((LevelOf(currentIndex()) - LevelsToTheLeft) * indentation());
-}
-
-void FolderTreeView::resizeEvent(QResizeEvent* event) {
-  QTreeView::resizeEvent(event);
-  ScrollToCurrent();
 }
 
 void FolderTreeView::mousePressEvent(QMouseEvent* event) {

@@ -25,7 +25,6 @@ class FolderTreeView final : public QTreeView, public FolderTree {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void ScrollToCurrent();

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QSignalBlocker>
 #include <algorithm>
-#include <limits>
 
 #include "ui/qt_text.h"
 #include "ui/window_timers.h"
@@ -14,10 +13,21 @@ namespace {
 
 constexpr int MillisecondsPerFrame = 40;
 
+// The cursor keeps its distance from the end, so that a text that the program changes in front of
+// it doesn't throw it out of place.
 void ShowText(QLineEdit& box, const QString& text) {
   if (box.text() != text) {
+    const auto behind = box.text().size() - box.cursorPosition();
     box.setText(text);
+    box.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, text.size() - behind)));
   }
+}
+
+// A tip shows its text as it is: "<TITLE>" is a keyword, no format.
+void ShowTip(QWidget& control, const Text& text) {
+  const QString tip = ToQString(text);
+  control.setToolTip(tip.isEmpty() ? tip
+                                   : QStringLiteral("<span>%1</span>").arg(tip.toHtmlEscaped()));
 }
 
 }  // namespace
@@ -70,7 +80,7 @@ void FormPresenter::Refresh() {
     ShowButtons();
   }
   if ((parts & HelpPart) != 0) {
-    controls_->Help->setToolTip(ToQString(form_->HelpToolTip));
+    ShowTip(*controls_->Help, form_->HelpToolTip);
   }
   if ((parts & WildCardPart) != 0) {
     ShowWildCard();
@@ -137,18 +147,22 @@ void FormPresenter::ControlEnabled(FormControl control, bool enabled) {
   widget->setEnabled(enabled);
   if (enabled && focusBeforeDisabling_ &&
       (focusBeforeDisabling_ == widget || widget->isAncestorOf(focusBeforeDisabling_))) {
-    if (window_->focusWidget() == nullptr || window_->focusWidget() == window_) {
-      focusBeforeDisabling_->setFocus();
-    }
-    focusBeforeDisabling_ = nullptr;
+    GiveFocusBack();
   }
 }
 
+void FormPresenter::GiveFocusBack() {
+  if (window_->focusWidget() == nullptr || window_->focusWidget() == window_) {
+    focusBeforeDisabling_->setFocus();
+  }
+  focusBeforeDisabling_ = nullptr;
+}
+
 void FormPresenter::ShowButtons() {
-  const auto show = [](bool second, QPushButton* one, QPushButton* other) {
+  const auto show = [this](bool second, QPushButton* one, QPushButton* other) {
     QPushButton* shown = second ? other : one;
     QPushButton* hidden = second ? one : other;
-    const bool hadFocus = hidden->hasFocus();
+    const bool hadFocus = window_->focusWidget() == hidden;
     shown->setVisible(true);
     if (hadFocus) {
       shown->setFocus();
@@ -195,18 +209,19 @@ void FormPresenter::ShowBox(int box) {
   const auto index = static_cast<std::size_t>(box);
   const OptionBox& shown = form_->Boxes[index];
   const BoxControls& controls = controls_->Boxes[index];
-  const QString caption = ToQString(shown.Caption);
+  const QString name = ToQString(shown.Caption);
+  const QString caption = QString(name).replace(u'&', QStringLiteral("&&"));  // no mnemonic
   const QString check = ToQString(shown.CheckCaption);
   if (controls.Caption->text() != caption) {
     controls.Caption->setText(caption);
     controls.Caption->adjustSize();
-    controls.Content->setAccessibleName(caption);
+    controls.Content->setAccessibleName(name);
   }
   ShowText(*controls.Content, ToQString(shown.Content));
-  controls.Content->setToolTip(ToQString(shown.ToolTip));
+  ShowTip(*controls.Content, shown.ToolTip);
   controls.Content->setAccessibleDescription(ToQString(shown.ToolTip));
   controls.Content->setEnabled(shown.Enabled);
-  controls.Check->setToolTip(check);
+  ShowTip(*controls.Check, shown.CheckCaption);
   controls.Check->setAccessibleName(check);
   controls.Check->setChecked(shown.Checked);
   controls.Caption->setVisible(shown.Visible);
@@ -270,14 +285,13 @@ void FormPresenter::EnsureVisible(std::int32_t row) {
 
 void FormPresenter::ListHidden(bool hidden) {
   FileListView* list = controls_->FileList;
-  const bool hadFocus = list->hasFocus();
+  const bool hadFocus = window_->focusWidget() == list;
   list->setVisible(!hidden);
   if (hidden && hadFocus) {
     focusBeforeDisabling_ = list;
     window_->setFocus();
   } else if (!hidden && focusBeforeDisabling_ == list) {
-    list->setFocus();
-    focusBeforeDisabling_ = nullptr;
+    GiveFocusBack();
   }
 }
 

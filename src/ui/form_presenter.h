@@ -68,6 +68,7 @@ class FormPresenter final : public FormView {
   void ShowBoxes();
   void ShowBox(int box);
   QWidget* WidgetOf(FormControl control) const;
+  void GiveFocusBack();
 
   const Form* form_ = nullptr;
   FrmMain* window_ = nullptr;

@@ -102,12 +102,6 @@ void FrmMain::PlaceControls() {
   PlaceStatus();
 }
 
-void FrmMain::PlaceBoxLabels() {
-  for (const BoxControls& box : controls_.Boxes) {
-    box.Caption->adjustSize();
-  }
-}
-
 void FrmMain::ShowStatus(const QString& text) {
   status_ = text;
   PlaceStatus();
@@ -132,26 +126,31 @@ void FrmMain::ShowFileStatus(const QString& text) {
 
 void FrmMain::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  if (isMaximized() && OnMaximized) {
+    OnMaximized();
+  }
+  TakeWindowState();
+}
+
+// The size and the state of the window may come in either order.
+void FrmMain::TakeWindowState() {
   if (isMaximized()) {
     pendingRestore_ = true;
-    if (OnMaximized) {
-      OnMaximized();
-    }
   }
   if (isMinimized() || inResize_) {
     return;
   }
-  if (!isMaximized() && pendingRestore_) {
-    pendingRestore_ = false;
-    if (OnRestored) {
-      OnRestored();
-    }
+  if (!isMaximized() && std::exchange(pendingRestore_, false) && OnRestored) {
+    OnRestored();
   }
   ResizeIfChanged();
 }
 
 void FrmMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) {
+    TakeWindowState();
+  }
   if (event->type() == QEvent::ActivationChange && isActiveWindow() && !activated_) {
     activated_ = true;
     if (OnFirstActivation) {

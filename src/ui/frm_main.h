@@ -29,7 +29,6 @@ class FrmMain final : public QWidget {
   // Labels are as wide as their text; the status line ends at the window's edge.
   void ShowStatus(const QString& text);
   void ShowFileStatus(const QString& text);
-  void PlaceBoxLabels();
 
   // May the window be closed now? Asked at each attempt.
   std::function<bool()> OnClose;
@@ -45,6 +44,7 @@ class FrmMain final : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void TakeWindowState();
   void ResizeIfChanged();
   void PlaceControls();
   void PlaceStatus();

@@ -47,12 +47,17 @@ void OperationsView::ShowSelected(std::int32_t index) {
 
 void OperationsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeWidget::currentChanged(current, previous);
-  if (!showing_ && current.isValid()) {
+  if (keyActs_ && !showing_ && current.isValid()) {
     ClickLater();
   }
 }
 
-// Selecting by a click brings both a change and a click; they count as one.
+void OperationsView::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback acting(keyActs_, true);
+  QTreeWidget::keyPressEvent(event);
+}
+
+// The handler may fill the tree anew, which must not happen inside the view's own handler.
 void OperationsView::ClickLater() {
   if (clickWaits_) {
     return;

@@ -23,12 +23,14 @@ class OperationsView final : public QTreeWidget {
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void ClickLater();
 
   std::vector<QTreeWidgetItem*> items_;  // by index - 1
   bool showing_ = false;
+  bool keyActs_ = false;
   bool clickWaits_ = false;
 };
 

@@ -101,7 +101,7 @@ void Program::HideLabelsLater(bool isFirstStart) {
 
 void Program::ShowFolder(const Text& folder) {
   QTimer::singleShot(0, &window_, [this, folder] {
-    gate_.Start([this, &folder] { browser_.ShowFolderBrowser(folder); });
+    gate_.Start([this, folder] { browser_.ShowFolderBrowser(folder); });
   });
 }
 
@@ -121,8 +121,8 @@ void Program::ConnectButtons() {
   };
   FormControls& controls = window_.Controls();
   connect(controls.Go, [this] { Go(); });
-  connect(controls.Stop, [this] { form_.Jobs.RequestStop(); });
-  connect(controls.Undo, [this] { gate_.Start([this] { undo_.cmdUndo_Click(); }); });
+  connect(controls.Stop, [this] { Stop(); });
+  connect(controls.Undo, [this] { Undo(); });
   connect(controls.Exit, [this] { Close(); });
   for (QPushButton* button : {controls.DoOne, controls.DoAll}) {
     connect(button, [this] { gate_.Start([this] { events_.cmdDoAllOrOne_Click(); }); });
@@ -138,12 +138,18 @@ void Program::ConnectButtons() {
 void Program::ConnectList() {
   FileListView& view = *window_.Controls().FileList;
   view.OnRowSelected = [this](int row) { form_.Rows.Select(row); };
-  view.OnRowClicked = [this] { gate_.Run([this] { events_.lstFileList_ItemClick(); }); };
+  view.OnRowClicked = [this] { gate_.Start([this] { events_.lstFileList_ItemClick(); }); };
   view.OnColumnClicked = [this](Column column) {
-    gate_.Start([this, column] { events_.lstFileList_ColumnClick(column); });
+    const bool endsPreview = form_.Jobs.PreviewState != JobState::Idle;
+    gate_.Start([this, column, endsPreview] {
+      events_.lstFileList_ColumnClick(column);
+      if (endsPreview && form_.IsIdle()) {
+        preview_.UpdateFilePreviewAll(false, 0);
+      }
+    });
   };
-  view.OnFolderDropped = [this](const QString& folder) {
-    gate_.Start([this, path = ToText(folder)] { browser_.FolderDropped({path}); });
+  view.OnFolderDropped = [this](const Text& folder) {
+    gate_.Start([this, folder] { browser_.FolderDropped({folder}); });
   };
   window_.OnFileStatusDoubleClicked = [this] { PreviewAll(); };
 }
@@ -152,6 +158,11 @@ void Program::ConnectTrees() {
   FormControls& controls = window_.Controls();
   controls.Operations->OnNodeClicked = [this](std::int32_t index) {
     gate_.Start([this, index] {
+      if (form_.JournalInUse) {
+        // A run is the work of one operation; the tree goes back to it.
+        window_.Controls().Operations->ShowSelected(form_.SelectedOperation);
+        return;
+      }
       form_.SelectedOperation = index;
       selection_.lstRenamingOperations_NodeClick();
     });
@@ -207,16 +218,17 @@ void Program::ConnectKeys() {
       Go();
     }
   };
-  keys_.OnStop = [this] { form_.Jobs.RequestStop(); };
+  keys_.OnStop = [this] { Stop(); };
   keys_.OnUndo = [this] {
     if (form_.UndoEnabled) {
-      gate_.Start([this] { undo_.cmdUndo_Click(); });
+      Undo();
     }
   };
   keys_.OnListAnew = [this] {
     gate_.Start([this] {
       if (form_.IsIdle()) {
         list_.PathChangedEvent();
+        RefreshFolders();
       }
     });
   };
@@ -234,7 +246,6 @@ void Program::ConnectWindow() {
   window_.OnClose = [this] { return MayClose(); };
   gate_.OnIdle = [this] {
     presenter_.Refresh();
-    RefreshFolders();
     if (closeWanted_ && shown_ && !closed_) {
       QTimer::singleShot(0, &window_, [this] { window_.close(); });
     }
@@ -243,14 +254,33 @@ void Program::ConnectWindow() {
 
 // A run and its undo make folders and take them away.
 void Program::RefreshFolders() {
-  if (form_.Rows.Generation() != shownGeneration_) {
-    shownGeneration_ = form_.Rows.Generation();
-    window_.Controls().Folders->Refresh(form_.CurrentPath);
-  }
+  window_.Controls().Folders->Refresh(form_.CurrentPath);
 }
 
+// A second press while the first one waits for a preview to end is the same wish.
 void Program::Go() {
-  gate_.Start([this] { run_.cmdGo_Click(); });
+  if (goWaits_ || closeWanted_) {
+    return;
+  }
+  goWaits_ = true;
+  gate_.Start([this] {
+    goWaits_ = false;
+    run_.cmdGo_Click();
+    RefreshFolders();
+  });
+}
+
+void Program::Stop() {
+  gate_.ForgetWaiting();
+  goWaits_ = false;
+  form_.Jobs.RequestStop();
+}
+
+void Program::Undo() {
+  gate_.Start([this] {
+    undo_.cmdUndo_Click();
+    RefreshFolders();
+  });
 }
 
 // Closing in the middle of a job would cut it off. It is asked to stop, and once all handlers have

@@ -85,6 +85,8 @@ class Program {
   bool MayClose();
   void RefreshFolders();
   void Go();
+  void Stop();
+  void Undo();
   void FocusNextPane(bool back);
   bool FocusNextBox();
 
@@ -108,7 +110,7 @@ class Program {
   FolderBrowser browser_;
   WindowKeys keys_;
   OperationsTree operations_;
-  std::uint64_t shownGeneration_ = 0;  // of the list, when the folder tree was last read again
+  bool goWaits_ = false;
   bool shown_ = false;
   bool closeWanted_ = false;
   bool closed_ = false;

@@ -15,7 +15,9 @@ bool Call(const std::function<void()>& handler) {
 
 // A text box takes its own typing back first.
 bool IsEditingUndoable() {
-  const auto* box = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+  const QWidget* focus = QApplication::focusWidget();
+  const auto* list = qobject_cast<const QComboBox*>(focus);
+  const auto* box = list != nullptr ? list->lineEdit() : qobject_cast<const QLineEdit*>(focus);
   return box != nullptr && box->isUndoAvailable();
 }
 

@@ -135,6 +135,34 @@ TEST_F(OperationSelectionTest, TheSameWildcardListsNothing) {
   EXPECT_FALSE(WasListed());
 }
 
+TEST_F(OperationSelectionTest, AWildcardThatWasTypedJustBeforeIsListedAtOnce) {
+  Wildcard.cboWildCard_Change(u"*.mp3");
+  Click({u"Help Message:h", u"Wildcard:*.mp3", u"Available Boxes:0"});
+  EXPECT_EQ(World.Names(), (std::vector<Text>{u"a.mp3"}));
+  EXPECT_FALSE(State.IsTimerRunning(FormTimer::UpdateList));
+}
+
+TEST_F(OperationSelectionTest, AListingThatIsDueIsNeverDropped) {
+  Wildcard.cboWildCard_Change(u"*.mp3");
+  Click({u"Help Message:h", u"Wildcard:*.mp3"});
+  EXPECT_TRUE(State.IsTimerRunning(FormTimer::UpdateList));
+}
+
+TEST_F(OperationSelectionTest, InTheMiddleOfAListingNoOtherOneBegins) {
+  State.Jobs.ListingState = JobState::Running;
+  Click({u"Help Message:h", u"Wildcard:*.mp3", u"Available Boxes:0"});
+  EXPECT_FALSE(WasListed());
+}
+
+TEST_F(OperationSelectionTest, ATickIsTakenAway) {
+  Click(TwoBoxes);
+  State.Boxes[1].Checked = true;
+  State.Boxes[1].Enabled = true;
+  Click(TwoBoxes);
+  EXPECT_FALSE(Box(2).Checked);
+  EXPECT_FALSE(Box(2).Enabled);
+}
+
 TEST_F(OperationSelectionTest, ANewExtensionJoinsTheWildcards) {
   Click({u"Help Message:h", u"Wildcard:*.jpg", u"Available Boxes:0"});
   EXPECT_EQ(State.WildCardItems.back(), u"*.jpg");

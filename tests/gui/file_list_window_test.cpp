@@ -1,5 +1,6 @@
 // The list on the screen.
 #include "gui/window_world.h"
+#include "support/id3_bytes.h"
 
 namespace vorlane {
 namespace {
@@ -109,6 +110,83 @@ TEST_F(FileListWindowTest, AClickOnARowWhoseFileHasGoneListsAnew) {
   const QRect row = List().visualRect(List().model()->index(1, 0));
   QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, row.center());
   EXPECT_TRUE(WindowWorld::WaitFor([&] { return Names().size() == 2; }));
+}
+
+TEST_F(FileListWindowTest, AClickThatTakesItsTimeActsOnce) {
+  WriteFiles(3);
+  World.Open(World.Folder.Path());
+  World.Main.Timers().tmrListScroll.stop();
+  int previews = 0;
+  World.Main.State().SetProposedName(1, u"");
+  QObject::connect(List().model(), &QAbstractItemModel::dataChanged, [&] { ++previews; });
+  const QPoint place = List().visualRect(List().model()->index(1, 0)).center();
+  QTest::mousePress(List().viewport(), Qt::LeftButton, {}, place);
+  QTest::qWait(30);
+  EXPECT_EQ(previews, 0);
+  EXPECT_EQ(World.Main.State().Rows.Selected(), 2);
+  QTest::mouseRelease(List().viewport(), Qt::LeftButton, {}, place);
+  QTest::qWait(30);
+  EXPECT_EQ(previews, 1);
+}
+
+TEST_F(FileListWindowTest, TheSelectedRowStaysSelectedWhateverKeyIsHeld) {
+  WriteFiles(3);
+  World.Open(World.Folder.Path());
+  const QPoint place = List().visualRect(List().model()->index(1, 0)).center();
+  QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseClick(List().viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+  QTest::qWait(10);
+  EXPECT_TRUE(List().selectionModel()->isRowSelected(1, {}));
+}
+
+TEST_F(FileListWindowTest, SelectingFromCodeLeavesTheColumnsInView) {
+  WriteFiles(3);
+  World.Open(World.Folder.Path());
+  List().horizontalScrollBar()->setValue(List().horizontalScrollBar()->maximum());
+  World.Click("cmdGo");
+  EXPECT_EQ(List().horizontalScrollBar()->value(), List().horizontalScrollBar()->maximum());
+}
+
+TEST_F(FileListWindowTest, AControlCharacterBreaksNoRow) {
+  World.Folder.Write("a\nb");
+  World.Open(World.Folder.Path());
+  EXPECT_EQ(Names(), QStringList({QStringLiteral("a\u240Ab")}));
+}
+
+TEST_F(FileListWindowTest, TheFocusStaysWhereTheUserWentWhileTheListWasHidden) {
+  WriteFiles(600);
+  World.Open(World.Folder.Path());
+  World.Main.Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&World.Main.Window()));
+  List().setFocus();
+  auto& box = World.Find<QComboBox>("cboWildCard");
+  struct Watch : QObject {
+    QWidget* Target;
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Hide) {
+        QTimer::singleShot(0, Target, [target = Target] { target->setFocus(); });
+      }
+      return false;
+    }
+  } watch;
+  watch.Target = &box;
+  List().installEventFilter(&watch);
+  QTest::keyClick(&List(), Qt::Key_F5);
+  EXPECT_TRUE(box.hasFocus());
+}
+
+TEST_F(FileListWindowTest, AnMp3ShowsItsTagsWhenItIsClicked) {
+  World.Folder.Write("a.mp3", "audio" + id3::V1("Title", "Artist", "", "", "", 0, 0));
+  World.Folder.Write("b.txt");
+  World.LoadOperations({u"Operation Name:\tX", u"Step: <FILENAME>", u"Help Message: h",
+                        u"Available Boxes: 1", u"Box Name: n", u"Box Display: <ARTIST>",
+                        u"Box ToolTip:", u"Box Check:", u""});
+  World.Main.SelectOperation(1);
+  World.Open(World.Folder.Path());
+  EXPECT_EQ(World.ColumnTexts(Column::Artist), QStringList({"Artist", ""}));
+  EXPECT_EQ(World.ColumnTexts(Column::ID3v1), QStringList({"Yes", ""}));
+  EXPECT_EQ(World.ColumnTexts(Column::ID3v2), QStringList({"No", ""}));
+  EXPECT_EQ(World.Find<QLineEdit>("txtRenameOption(0)").text(), "Artist");
 }
 
 TEST_F(FileListWindowTest, TakesExactlyOneDroppedFolder) {

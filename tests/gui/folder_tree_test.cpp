@@ -79,6 +79,16 @@ TEST_F(FolderTreeTest, ARefreshBringsNewFoldersAndTakesThoseThatHaveGone) {
   EXPECT_EQ(NamesIn(Model.Find(u"/b/")), QStringList({"deep"}));
 }
 
+TEST_F(FolderTreeTest, AnOpeningReadsOnce) {
+  const QModelIndex root = Model.index(0, 0, {});
+  NamesIn(root);
+  Disk.MakeFolder(u"/c/");
+  Model.RefreshOpened(root);
+  EXPECT_FALSE(NamesIn(root).contains("c"));
+  Model.RefreshOpened(root);
+  EXPECT_TRUE(NamesIn(root).contains("c"));
+}
+
 TEST_F(FolderTreeTest, AFolderThatCannotBeReadIsEmpty) {
   const QModelIndex deep = Model.Find(u"/b/deep/");
   Disk.RemoveFolder(u"/b/deep/");

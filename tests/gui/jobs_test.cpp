@@ -113,6 +113,36 @@ TEST_F(JobsTest, AnOperationPickedInTheMiddleOfAPreviewComesBehindIt) {
   EXPECT_LT(time.elapsed(), 2500);  // it didn't wait for a preview that couldn't go on
 }
 
+TEST_F(JobsTest, TwoPressesOfGoInTheMiddleOfAPreviewAreOneRun) {
+  World.Click("cmdDoOne");
+  QTimer::singleShot(0, [&] {
+    World.Click("cmdGo");
+    World.Click("cmdGo");
+  });
+  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  EXPECT_TRUE(World.Folder.Exists("xf10000"));
+  EXPECT_EQ(Renamed(), 3000);
+}
+
+TEST_F(JobsTest, AGoThatWaitsIsTakenBackByStop) {
+  QTimer::singleShot(0, [&] {
+    World.Click("cmdGo");
+    QTest::keyClick(&World.Main.Window(), Qt::Key_Escape);
+  });
+  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  EXPECT_EQ(Renamed(), 0);
+}
+
+TEST_F(JobsTest, ClosingInTheMiddleOfAPreviewEndsItFirst) {
+  QTimer::singleShot(0, [&] {
+    World.Click("cmdGo");
+    World.Main.Window().close();
+  });
+  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return !World.Main.Window().isVisible(); }));
+  EXPECT_EQ(Renamed(), 0);
+}
+
 TEST_F(JobsTest, StopEndsAPreview) {
   QTimer::singleShot(0, [&] { World.Main.State().Jobs.RequestStop(); });
   QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);

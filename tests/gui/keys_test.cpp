@@ -36,6 +36,17 @@ TEST_F(KeysTest, CtrlZTakesARunBack) {
   EXPECT_TRUE(World.Folder.Exists("a.txt"));
 }
 
+TEST_F(KeysTest, CtrlZInTheWildcardTakesTheTypingBack) {
+  World.Click("cmdGo");
+  ASSERT_TRUE(World.Folder.Exists("xa.txt"));
+  auto& box = World.Find<QComboBox>("cboWildCard");
+  box.setFocus();
+  QTest::keyClicks(&box, "z");
+  QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.currentText(), "*.*");
+  EXPECT_TRUE(World.Folder.Exists("xa.txt"));
+}
+
 TEST_F(KeysTest, CtrlQCloses) {
   QTest::keyClick(&World.Main.Window(), Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(World.Main.Window().isVisible());

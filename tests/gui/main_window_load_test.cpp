@@ -88,7 +88,7 @@ TEST_F(MainWindowLoadTest, StoredValuesComeBack) {
   EXPECT_EQ(WidthOf(run, Column::ProposedName), 267);
   EXPECT_EQ(WidthOf(run, Column::Artist), 67);
   EXPECT_EQ(run.Main.State().SelectedOperation, 2);
-  EXPECT_EQ(run.Main.Window().Controls().Help->toolTip(), "h2");
+  EXPECT_EQ(run.Main.Window().Controls().Help->toolTip(), "<span>h2</span>");
   EXPECT_EQ(run.Main.Window().size(), QSize(1200, 600));
 }
 
@@ -97,6 +97,33 @@ TEST_F(MainWindowLoadTest, AnOperationBeyondTheTreeGivesTheFirstOne) {
     Store(u"LastOperation", stored);
     EXPECT_EQ(Load().Main.State().SelectedOperation, 1);
   }
+}
+
+TEST_F(MainWindowLoadTest, TheSettingsOfTheYearBeforeAreTaken) {
+  {
+    DesktopServices services(Prompts);
+    Settings(services.Calls, u"Vorlane 2005").SaveSetting(SettingsSection, u"Width", u"18000");
+  }
+  EXPECT_EQ(Load().Main.Window().width(), 1200);
+}
+
+TEST_F(MainWindowLoadTest, TheLabelsOfAFirstStartStayLonger) {
+  EXPECT_EQ(Load().Main.Timers().tmrHideAllLabels.interval(), 10'000);
+  EXPECT_TRUE(Current->Main.Timers().tmrHideAllLabels.isActive());
+  Store(u"Width", u"18000");
+  EXPECT_EQ(Load().Main.Timers().tmrHideAllLabels.interval(), 3000);
+}
+
+TEST_F(MainWindowLoadTest, TheTimersHaveTheirIntervals) {
+  WindowTimers& timers = Load().Main.Timers();
+  EXPECT_EQ(timers.tmrFileCounter.interval(), 5000);
+  EXPECT_EQ(timers.tmrProgramStatus.interval(), 1000);
+  EXPECT_EQ(timers.tmrFileStatus.interval(), 100);
+  EXPECT_EQ(timers.tmrListScroll.interval(), 500);
+  EXPECT_EQ(timers.tmrUpdateList.interval(), 1000);
+  EXPECT_EQ(timers.tmrAutoPreview.interval(), 1000);
+  EXPECT_FALSE(timers.tmrListScroll.isSingleShot() || timers.tmrFileCounter.isSingleShot());
+  EXPECT_TRUE(timers.tmrUpdateList.isSingleShot() && timers.tmrAutoPreview.isSingleShot());
 }
 
 TEST_F(MainWindowLoadTest, OnlyA1IsMaximized) {
@@ -121,7 +148,8 @@ TEST_F(MainWindowLoadTest, ADamagedCatalogueIsReportedAndTheRestOfTheLoadGoesOn)
   Store(u"Width", u"18000");
   Store(u"LastOperation", u"2");
   Run& run = Load();
-  EXPECT_EQ(Prompts.Boxes.size(), 1U);
+  ASSERT_EQ(Prompts.Boxes.size(), 1U);
+  EXPECT_TRUE(Contains(Prompts.Boxes[0].Message, u"frmMain (LoadInterfaceElements)"));
   EXPECT_EQ(run.Main.State().SelectedOperation, 2);
   EXPECT_EQ(run.Main.Window().width(), 1200);
   EXPECT_TRUE(run.Main.Window().Controls().Go->isEnabled());

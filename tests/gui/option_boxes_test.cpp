@@ -13,7 +13,7 @@ struct OptionBoxWindowTest : testing::Test {
                           u"Help Message: h",
                           u"Available Boxes: 3",
                           u"Box Name: First",
-                          u"Box Name: Second",
+                          u"Box Name: Second & last",
                           u"Box Name: Third",
                           u"Box Display: Registry(First|x)",
                           u"Box Display:",
@@ -57,11 +57,27 @@ TEST_F(OptionBoxWindowTest, ShowCaptionTextAndTip) {
   EXPECT_FALSE(Box(4).isVisible());
   EXPECT_EQ(World.Find<QLabel>("lblRenameOption(0)").text(), "First");
   EXPECT_EQ(Box(1).text(), "x");
-  EXPECT_EQ(Box(1).toolTip(), "Type it");
+  EXPECT_EQ(Box(1).toolTip(), "<span>Type it</span>");
   EXPECT_EQ(Box(3).text(), "A");
   EXPECT_FALSE(Box(3).isEnabled());
-  EXPECT_EQ(World.Find<QCheckBox>("chkRenameOption(2)").toolTip(), "Own");
+  EXPECT_EQ(World.Find<QCheckBox>("chkRenameOption(2)").toolTip(), "<span>Own</span>");
   EXPECT_TRUE(World.Find<QCheckBox>("chkRenameOption(2)").text().isEmpty());
+}
+
+TEST_F(OptionBoxWindowTest, CaptionsAndTipsShowTheirTextAsItIs) {
+  EXPECT_EQ(World.Find<QLabel>("lblRenameOption(1)").text(), "Second && last");
+  EXPECT_EQ(Box(2).accessibleName(), "Second & last");
+  World.Main.State().SetHelpToolTip(u"uses <TITLE>");
+  EXPECT_EQ(World.Find<QWidget>("cmdHelp").toolTip(), "<span>uses &lt;TITLE&gt;</span>");
+}
+
+TEST_F(OptionBoxWindowTest, TheCursorStaysWhereTheBoxesOwnKeywordIsTakenOut) {
+  Focus(2);
+  QTest::keyClicks(&Box(2), "ab");
+  QTest::keyClick(&Box(2), Qt::Key_Left);
+  QTest::keyClicks(&Box(2), "<BOX2>");
+  EXPECT_EQ(Box(2).text(), "ab");
+  EXPECT_EQ(Box(2).cursorPosition(), 1);
 }
 
 TEST_F(OptionBoxWindowTest, TypingIsPreviewedAndKept) {

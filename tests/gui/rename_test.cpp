@@ -35,7 +35,7 @@ TEST_F(RenameTest, AnOperationShowsEveryNewNameAndGoRenames) {
   EXPECT_EQ(World.ColumnTexts(Column::CurrentName), QStringList({"a.txt", "b.txt", "c.TXT"}));
   ClickOperation("Upper");
   EXPECT_EQ(World.ColumnTexts(Column::ProposedName), QStringList({"A.txt", "B.txt", "C.TXT"}));
-  EXPECT_EQ(World.Find<QWidget>("cmdHelp").toolTip(), "Capital letters");
+  EXPECT_EQ(World.Find<QWidget>("cmdHelp").toolTip(), "<span>Capital letters</span>");
 
   World.Click("cmdDoOne");
   EXPECT_TRUE(World.Find<QWidget>("cmdDoAll").isVisible());
@@ -102,7 +102,7 @@ TEST_F(RenameTest, SubFoldersAreListedOnDemandAndLeftOutAgainInAnotherFolder) {
 TEST_F(RenameTest, AHeadingLeavesTheProposalsAndTheWildcard) {
   ClickOperation("Upper");
   ClickOperation("Case");
-  EXPECT_EQ(World.Find<QWidget>("cmdHelp").toolTip(), "Help");
+  EXPECT_EQ(World.Find<QWidget>("cmdHelp").toolTip(), "<span>Help</span>");
   EXPECT_FALSE(World.Find<QWidget>("txtRenameOption(0)").isVisible());
 }
 

@@ -94,6 +94,7 @@ TEST_F(FolderBrowserTest, ASelectionInTheMiddleOfARunLeavesItsJournalAlone) {
   State.Jobs.BatchState = JobState::Running;
   Browser.SelectionChanged(u"/S");
   EXPECT_EQ(State.CurrentPath, u"/R/");
+  EXPECT_EQ(Tree.Shown, (std::vector<Text>{u"/R/", u"/R/", u"/R/"}));  // and back, and back
   EXPECT_TRUE(HasJournal(u"/R/"));
 }
 
@@ -118,7 +119,19 @@ TEST_F(FolderBrowserTest, OnlyOneFolderCanBeDropped) {
   }
 }
 
-TEST_F(FolderBrowserTest, ADropWhileAJobIsAtWorkIsIgnored) {
+TEST_F(FolderBrowserTest, ADropInTheMiddleOfAListingCounts) {
+  Browser.ShowFolderBrowser(u"/R");
+  bool dropped = false;
+  World.Loop.OnYield = [&] {
+    if (!std::exchange(dropped, true)) {
+      Browser.FolderDropped({u"/S"});
+    }
+  };
+  Browser.SelectionChanged(u"/R");
+  EXPECT_EQ(World.Names(), (std::vector<Text>{u"in s"}));
+}
+
+TEST_F(FolderBrowserTest, ADropInTheMiddleOfARunIsIgnored) {
   Browser.ShowFolderBrowser(u"/R");
   State.Jobs.BatchState = JobState::Running;
   Browser.FolderDropped({u"/S"});
