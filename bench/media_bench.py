@@ -18,9 +18,10 @@ import tempfile
 import time
 from pathlib import Path
 
+sys.dont_write_bytecode = True
 from make_media import make_files, photo, photo_date, song, song_names
 
-ROUNDS = 5
+ROUNDS = 3
 TOO_SLOW_TO_REPEAT = 20  # seconds
 
 

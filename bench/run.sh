@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs every benchmark of a build. Usage: bench/run.sh FOLDER_OF_BINARIES
-# The files are made in a temporary folder; set TMPDIR to measure another disk.
+# The files are made in a temporary folder; set TMPDIR to measure another disk. The names from tags
+# and EXIF dates take some minutes with 10,000 files; set FILES to measure fewer.
 set -euo pipefail
 binaries=${1:?usage: run.sh FOLDER_OF_BINARIES}
 
@@ -18,4 +19,5 @@ if [[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
 fi
 "$binaries"/window_bench
 echo
+"$(dirname "${BASH_SOURCE[0]}")"/media_bench.py "$binaries"/vorlane-cli "${FILES:-10000}"
 echo "load average: $(cut -d ' ' -f 1-3 /proc/loadavg)"

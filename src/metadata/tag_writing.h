@@ -36,7 +36,8 @@ struct ID3v2Services {
 void WriteID3v2(const ID3v2Services& services, TextView path, const ID3Tag& tag, bool removeID3v1);
 
 // The same without the box: throws the RunError. 9 for a tag whose header says 0, 62 for one whose
-// header says over 1 MiB more than the file holds, 5 for texts that don't fit.
+// header says over 1 MiB more than the file holds, 5 for texts that don't fit, 75 for a file that
+// changes its size between the reading and the first write.
 void WriteID3v2OrFail(FileSystem& files, FailureReport& report, StatusLine& status, TextView path,
                       const ID3Tag& tag, bool removeID3v1);
 

@@ -104,4 +104,10 @@ void MemoryWorld::ListFiles(const std::vector<Text>& names) {
   World.ListAll(folder);
 }
 
+std::string JournalBody(const MemoryWorld& on) {
+  return on.Disk.Exists(u"/R/UNDORENAME.TXT")
+             ? on.Disk.Read(u"/R/UNDORENAME.TXT").substr(JournalHeaderSize)
+             : "no journal";
+}
+
 }  // namespace vorlane

@@ -135,4 +135,7 @@ struct MemoryWorld {
   FormWorld World;
 };
 
+// The records in the journal of "/R/"; "no journal" if there is none.
+std::string JournalBody(const MemoryWorld& on);
+
 }  // namespace vorlane
