@@ -9,6 +9,13 @@ echo "temporary files on: $(df --output=fstype,target "${TMPDIR:-/tmp}" | tail -
 echo
 "$binaries"/evaluation_bench
 echo
+"$binaries"/settings_bench
+echo
 "$binaries"/whole_job_bench
+echo
+if [[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
+  export QT_QPA_PLATFORM=offscreen
+fi
+"$binaries"/window_bench
 echo
 echo "load average: $(cut -d ' ' -f 1-3 /proc/loadavg)"

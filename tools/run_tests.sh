@@ -38,6 +38,22 @@ test_program() { # test_program PROGRAM: a GoogleTest program, counted by its ow
   failed=$((failed + ${bad:-0}))
 }
 
+e2e_tests() { # e2e_tests FOLDER-OF-THE-PROGRAMS: counted by the line of Python's unittest
+  local log status count bad
+  log=$(mktemp)
+  python3 tests/e2e/window_test.py "$1" 2>&1 | tee "$log"
+  status=${PIPESTATUS[0]}
+  count=$(sed -n 's/^Ran \([0-9]*\) tests\{0,1\} in .*/\1/p' "$log")
+  bad=$(sed -n 's/^FAILED (//p' "$log" | tr -cs '0-9' '\n' | awk '{n += $1} END {print n + 0}')
+  rm -f "$log"
+  if { ((status != 0 && bad == 0)); } || [[ -z "$count" ]]; then
+    bad=$((bad + 1))
+    echo "FAILED  tests on a display ended with status $status"
+  fi
+  passed=$((passed + ${count:-0} - (bad < ${count:-0} ? bad : ${count:-0})))
+  failed=$((failed + bad))
+}
+
 build() { # build PRESET
   cmake --preset "$1" && cmake --build --preset "$1"
 }
@@ -63,7 +79,7 @@ format_is_kept() { sources '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werr
 
 lint_is_clean() {
   sources 'src/*.cpp' | grep -zv '/win32_' |
-    xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/asan --quiet
+    xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/asan --quiet 2> >(grep -v 'warnings generated')
 }
 
 check "includes point one way" tools/check_includes.sh
@@ -74,6 +90,7 @@ for preset in core asan; do
     [[ -x "$program" ]] && test_program "$program"
   done
 done
+e2e_tests build/asan/bin
 replay asan
 check "lint" lint_is_clean
 

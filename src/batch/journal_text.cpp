@@ -19,12 +19,8 @@ void AppendField(std::string& field, char16_t unit) {
   const auto byte = ByteOfCharacter(unit);
   if (byte && unit != u'|' && unit != u'\r' && unit != u'\n') {
     field.push_back(static_cast<char>(*byte));
-    return;
-  }
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  field.append(EscapeMark);
-  for (int shift = 12; shift >= 0; shift -= 4) {
-    field.push_back(digits[static_cast<std::size_t>((unit >> shift) & 0xF)]);
+  } else {
+    AppendUnitEscape(field, unit);
   }
 }
 

@@ -71,7 +71,8 @@ void OptionBoxes::chkRenameOption_Click(int box, bool ticked) {
 std::optional<int> OptionBoxes::NextBox() const {
   for (int step = 1; step < OptionBoxCount; ++step) {
     const int box = (lastFocused_ + step) % OptionBoxCount;
-    if (form_.Boxes[static_cast<std::size_t>(box)].Visible) {
+    const OptionBox& shown = form_.Boxes[static_cast<std::size_t>(box)];
+    if (shown.Visible && shown.Enabled) {
       return box;
     }
   }

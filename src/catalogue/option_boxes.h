@@ -27,7 +27,8 @@ class OptionBoxes {
   // The box is open for typing while it is ticked.
   void chkRenameOption_Click(int box, bool ticked);
 
-  // The shown box that TAB goes to from the one that had the focus last; nothing if none is shown.
+  // The box that TAB goes to from the one that had the focus last; nothing if no other one is shown
+  // and open for typing.
   std::optional<int> NextBox() const;
 
  private:

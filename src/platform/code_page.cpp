@@ -53,4 +53,25 @@ std::string CodePageBytes(TextView text) {
   return bytes;
 }
 
+std::string EscapedCodePageBytes(TextView text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (const char16_t unit : text) {
+    if (const auto byte = ByteOfCharacter(unit)) {
+      bytes.push_back(static_cast<char>(*byte));
+    } else {
+      AppendUnitEscape(bytes, unit);
+    }
+  }
+  return bytes;
+}
+
+void AppendUnitEscape(std::string& bytes, char16_t unit) {
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  bytes.append("//");
+  for (int shift = 12; shift >= 0; shift -= 4) {
+    bytes.push_back(digits[static_cast<std::size_t>((unit >> shift) & 0xF)]);
+  }
+}
+
 }  // namespace vorlane

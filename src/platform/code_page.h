@@ -22,4 +22,8 @@ Text TextFromCodePage(std::string_view bytes);
 // One byte for each UTF-16 unit, "?" for a unit that has none.
 std::string CodePageBytes(TextView text);
 
+// The same, but a unit that has no byte stands as "//" and its four upper-case hex digits.
+std::string EscapedCodePageBytes(TextView text);
+void AppendUnitEscape(std::string& bytes, char16_t unit);
+
 }  // namespace vorlane

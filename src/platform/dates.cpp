@@ -203,10 +203,9 @@ Text TwoDigits(int number) {
   return (number < 10 ? u"0" : u"") + DecimalText(number);
 }
 
-Text DateText(std::int32_t days) {
-  const std::chrono::year_month_day date(DayZero + std::chrono::days(days));
-  return DecimalText(unsigned{date.month()}) + u"/" + DecimalText(unsigned{date.day()}) + u"/" +
-         DecimalText(int{date.year()});
+Text DateText(DateTime date) {
+  const CalendarDay day = CalendarDayOf(date);
+  return DecimalText(day.Month) + u"/" + DecimalText(day.Day) + u"/" + DecimalText(day.Year);
 }
 
 Text TimeText(std::int32_t seconds) {
@@ -232,6 +231,12 @@ std::optional<DateTime> MakeDateTime(int year, int month, int day, int hour, int
   }
   const auto days = (std::chrono::sys_days(date) - DayZero).count();
   return DateTime{static_cast<std::int32_t>(days), hour * 3600 + minute * 60 + second};
+}
+
+CalendarDay CalendarDayOf(DateTime date) {
+  const std::chrono::year_month_day day(DayZero + std::chrono::days(date.Days));
+  return {int{day.year()}, static_cast<int>(unsigned{day.month()}),
+          static_cast<int>(unsigned{day.day()})};
 }
 
 std::optional<DateTime> ReadDate(TextView text) {
@@ -261,9 +266,9 @@ Text GeneralDate(DateTime date) {
     return TimeText(date.Seconds);
   }
   if (date.Seconds == 0) {
-    return DateText(date.Days);
+    return DateText(date);
   }
-  return DateText(date.Days) + u" " + TimeText(date.Seconds);
+  return DateText(date) + u" " + TimeText(date.Seconds);
 }
 
 }  // namespace vorlane

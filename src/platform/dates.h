@@ -26,6 +26,16 @@ struct DateTime {
 std::optional<DateTime> MakeDateTime(int year, int month, int day, int hour, int minute,
                                      int second);
 
+// The day of a date with a date part.
+struct CalendarDay {
+  int Year = 0;
+  int Month = 0;
+  int Day = 0;
+
+  bool operator==(const CalendarDay&) const = default;
+};
+CalendarDay CalendarDayOf(DateTime date);
+
 // Reads M/d/y and y/M/d with "/" or "-", English month names, times h:mm[:ss][ AM|PM], h AM|PM and
 // 24 h; a date, a time, or both in either order. d/M if the first number is over 12; two-digit
 // years 00 to 29 are 20xx, 30 to 99 are 19xx. A bare number or "1.5" is no date. Reads whatever

@@ -159,6 +159,10 @@ class FileSystem {
   // again. Doesn't follow a link. Opens and closes the file. Throws RunError.
   virtual void AppendToFile(TextView path, std::string_view bytes) = 0;
 
+  // Lets everybody who may read the file run it as a program. True if that is so now, as it always
+  // is on a system that has no such mark.
+  virtual bool MakeExecutable(TextView /*path*/) { return true; }
+
   // Removes a file or link, never a folder. True if it is gone by this call.
   virtual bool RemoveFile(TextView path) = 0;
 };

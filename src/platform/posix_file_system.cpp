@@ -60,6 +60,18 @@ bool PosixFileSystem::RemoveFolder(TextView path) {
   return bytes && rmdir(bytes->c_str()) == 0;
 }
 
+bool PosixFileSystem::MakeExecutable(TextView path) {
+  const auto bytes = BytesFromText(path);
+  struct stat status {};
+  if (!bytes || stat(bytes->c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    return false;
+  }
+  constexpr mode_t maskOfPermissions = 07777;
+  const mode_t readers = status.st_mode & (S_IRUSR | S_IRGRP | S_IROTH);
+  const mode_t mode = (status.st_mode & maskOfPermissions) | readers >> 2;
+  return chmod(bytes->c_str(), mode) == 0;
+}
+
 bool PosixFileSystem::RemoveFile(TextView path) {
   const auto bytes = BytesFromText(path);
   return bytes && unlink(bytes->c_str()) == 0;

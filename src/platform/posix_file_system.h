@@ -33,6 +33,7 @@ class PosixFileSystem : public FileSystem {
   bool RemoveFolder(TextView path) override;
   void CreateFile(TextView path, std::string_view bytes) override;
   void AppendToFile(TextView path, std::string_view bytes) override;
+  bool MakeExecutable(TextView path) override;
   bool RemoveFile(TextView path) override;
 
  protected:

@@ -9,6 +9,11 @@ namespace vorlane {
 
 namespace {
 
+std::filesystem::path RunningBinary() {
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error);
+}
+
 Text FolderText(const std::filesystem::path& folder) {
   return EnsureTrailingSeparator(TextFromBytes(folder.native()), PathStyle::Posix);
 }
@@ -20,11 +25,17 @@ Text ProgramFolder() {
     return FolderText(home);
   }
   std::error_code error;
-  const auto binary = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+  const auto binary = RunningBinary().parent_path();
   if (std::filesystem::exists(binary / "Operations.ini", error)) {
     return FolderText(binary);
   }
   return FolderText(binary.parent_path() / "share" / "vorlane");
+}
+
+Text ProgramFile() {
+  const char* image = std::getenv("APPIMAGE");
+  const bool isImage = image != nullptr && *image != '\0';
+  return TextFromBytes(isImage ? std::string(image) : RunningBinary().native());
 }
 
 }  // namespace vorlane

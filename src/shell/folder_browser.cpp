@@ -24,7 +24,8 @@ void FolderBrowser::SelectBrowserFolder(TextView path) {
 }
 
 void FolderBrowser::SelectionChanged(TextView path) {
-  if (path.empty()) {
+  const bool runIsAtWork = form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle;
+  if (path.empty() || runIsAtWork) {
     return;
   }
   Attempt([&] {

@@ -31,7 +31,8 @@ class FolderBrowser {
 
   // The user has selected a folder; an empty path stands for a node without one and changes
   // nothing. A journal in the folder that is left goes, a folder that has vanished gives way to the
-  // root, sub-folders are left out from here on, and the folder is listed.
+  // root, sub-folders are left out from here on, and the folder is listed. During a run or an undo
+  // nothing happens: the journal is theirs.
   void SelectionChanged(TextView path);
 
   // Files or folders were dropped on the list: exactly one folder is selected, anything else is

@@ -5,8 +5,6 @@
 #include <QScrollBar>
 #include <QTimer>
 
-#include "ui/qt_text.h"
-
 namespace vorlane {
 
 namespace {
@@ -21,69 +19,67 @@ int LevelOf(QModelIndex index) {
 
 }  // namespace
 
-FolderTreeView::FolderTreeView(QWidget* parent) : QTreeView(parent) {
-  folders_.setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
-  folders_.setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-  folders_.setRootPath(QStringLiteral("/"));
+FolderTreeView::FolderTreeView(QWidget* parent, FileSystem& files)
+    : QTreeView(parent), folders_(files) {
   setModel(&folders_);
-  for (int column = 1; column < folders_.columnCount(); ++column) {
-    hideColumn(column);
-  }
   setHeaderHidden(true);
   setUniformRowHeights(true);
   setIndentation(14);
   setEditTriggers(NoEditTriggers);
   header()->setStretchLastSection(false);
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-  connect(&folders_, &QFileSystemModel::directoryLoaded, this, [this] { ScrollToShown(); });
+  // What was read at the last opening may be long ago.
+  connect(this, &QTreeView::expanded, &folders_,
+          [this](const QModelIndex& folder) { folders_.Refresh(folder); });
 }
 
 void FolderTreeView::ShowFolder(const Text& path) {
-  const QString folder = ToQString(path);
-  if (folder.contains(QLatin1String("/."))) {
-    folders_.setFilter(folders_.filter() | QDir::Hidden);
-  }
-  const QModelIndex index = folders_.index(folder);
-  if (!index.isValid()) {
-    return;
-  }
-  const QScopedValueRollback showing(showing_, true);
-  setCurrentIndex(index);
-  expand(index);
-  shown_ = folder;
-  ScrollToShown();
-}
-
-// Folders come in the background, and those above push the shown one out of view.
-void FolderTreeView::ScrollToShown() {
-  if (!shown_.isEmpty()) {
-    const QModelIndex index = folders_.index(shown_);
-    scrollTo(index, PositionAtCenter);
-    // Its name in view, not the end of a longer name's line.
-    constexpr int LevelsToTheLeft = 4;
-    horizontalScrollBar()->setValue((LevelOf(index) - LevelsToTheLeft) * indentation());
+  const QModelIndex index = folders_.Find(path);
+  if (index.isValid()) {
+    setCurrentIndex(index);
+    ScrollToCurrent();
   }
 }
 
-// From here on the user says what is in view.
-bool FolderTreeView::viewportEvent(QEvent* event) {
-  if (event->type() == QEvent::Wheel || event->type() == QEvent::MouseButtonPress) {
-    shown_.clear();
+void FolderTreeView::Refresh(const Text& path) {
+  const QModelIndex index = folders_.Find(path);
+  if (index.isValid()) {
+    folders_.Refresh(index);
   }
-  return QTreeView::viewportEvent(event);
+}
+
+// The name in view rather than the lines that lead to it.
+void FolderTreeView::ScrollToCurrent() {
+  constexpr int LevelsToTheLeft = 4;
+  scrollTo(currentIndex(), PositionAtCenter);
+  horizontalScrollBar()->setValue((LevelOf(currentIndex()) - LevelsToTheLeft) * indentation());
+}
+
+void FolderTreeView::resizeEvent(QResizeEvent* event) {
+  QTreeView::resizeEvent(event);
+  ScrollToCurrent();
+}
+
+void FolderTreeView::mousePressEvent(QMouseEvent* event) {
+  const QScopedValueRollback acting(userActs_, true);
+  QTreeView::mousePressEvent(event);
+}
+
+void FolderTreeView::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback acting(userActs_, true);
+  QTreeView::keyPressEvent(event);
 }
 
 void FolderTreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
-  if (showing_ || !current.isValid() || noticeWaits_) {
+  if (!userActs_ || !current.isValid() || noticeWaits_) {
     return;
   }
-  shown_.clear();
   noticeWaits_ = true;
   QTimer::singleShot(0, this, [this] {
     noticeWaits_ = false;
     if (OnFolderSelected) {
-      OnFolderSelected(ToText(folders_.filePath(currentIndex())));
+      OnFolderSelected(folders_.PathOf(currentIndex()));
     }
   });
 }

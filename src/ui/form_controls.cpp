@@ -44,12 +44,12 @@ void Describe(const Description& description) {
 
 }  // namespace
 
-FormControls::FormControls(QWidget& form)
+FormControls::FormControls(QWidget& form, FileSystem& files)
     : TopBar(MakeLabel(form)),
       BottomBar(MakeLabel(form)),
       Title(MakeLabel(form)),
       Browse(new QFrame(&form)),
-      Folders(new FolderTreeView(Browse)),
+      Folders(new FolderTreeView(Browse, files)),
       Operations(new OperationsView(&form)),
       FileList(new FileListView(&form)),
       Keywords(new QComboBox(&form)),

@@ -27,7 +27,8 @@ inline constexpr int HelpLabelCount = 16;
 
 // The controls belong to the form.
 struct FormControls {
-  explicit FormControls(QWidget& form);
+  // The folder tree reads that disk.
+  FormControls(QWidget& form, FileSystem& files);
 
   QLabel* TopBar;
   QLabel* BottomBar;

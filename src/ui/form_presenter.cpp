@@ -81,12 +81,13 @@ void FormPresenter::Refresh() {
 }
 
 std::int32_t FormPresenter::GetCountPerPage() {
-  ShowRows();
+  ShowPlacesOfRows();
   return controls_->FileList->GetCountPerPage();
 }
 
+// Asked for each row of a run: the cells can wait.
 std::int32_t FormPresenter::FirstVisibleRow() {
-  ShowRows();
+  ShowPlacesOfRows();
   return controls_->FileList->FirstVisibleRow();
 }
 
@@ -247,19 +248,23 @@ void FormPresenter::CellChanged(std::int32_t row, Column /*column*/) {
   Show(RowsPart);
 }
 
-void FormPresenter::ShowRows() {
+void FormPresenter::ShowPlacesOfRows() {
   model_->ShowAddedRows();
   if (std::exchange(rowsMoved_, false)) {
     model_->ShowMovedRows();
     controls_->FileList->ShowSorting(form_->Rows.SortKey(), form_->Rows.Order());
     controls_->FileList->ShowSelected(form_->Rows.Selected());
   }
+}
+
+void FormPresenter::ShowRows() {
+  ShowPlacesOfRows();
   const int first = std::exchange(firstChangedRow_, 0);
   model_->ShowChangedRows(first, std::exchange(lastChangedRow_, -1));
 }
 
 void FormPresenter::EnsureVisible(std::int32_t row) {
-  ShowRows();
+  ShowPlacesOfRows();
   controls_->FileList->ShowRow(row);
 }
 

@@ -61,6 +61,7 @@ class FormPresenter final : public FormView {
   };
 
   void Show(Part part);
+  void ShowPlacesOfRows();
   void ShowRows();
   void ShowButtons();
   void ShowWildCard();

@@ -31,7 +31,7 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain() : controls_(*this) {
+FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
   for (const FormControlPlace& control : layout_.Controls()) {
@@ -53,6 +53,7 @@ FrmMain::FrmMain() : controls_(*this) {
   controls_.FileStatus->installEventFilter(this);
   resize(PixelsOf(DesignWidth), PixelsOf(DesignHeight));
   PlaceControls();
+  ShowFileStatus({});
 }
 
 void FrmMain::InitLayout() {
@@ -63,8 +64,10 @@ void FrmMain::InitLayout() {
 
 void FrmMain::RestorePlacement(const PlacementToApply& placement) {
   const QScopedValueRollback resizing(inResize_, true);
-  move(placement.Left ? PixelsOf(*placement.Left) : x(),
-       placement.Top ? PixelsOf(*placement.Top) : y());
+  if (placement.Left || placement.Top) {
+    move(placement.Left ? PixelsOf(*placement.Left) : x(),
+         placement.Top ? PixelsOf(*placement.Top) : y());
+  }
   resize(placement.Width ? PixelsOf(*placement.Width) : width(),
          placement.Height ? PixelsOf(*placement.Height) : height());
   ResizeIfChanged();

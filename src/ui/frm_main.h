@@ -12,7 +12,7 @@ namespace vorlane {
 
 class FrmMain final : public QWidget {
  public:
-  FrmMain();
+  explicit FrmMain(FileSystem& files);
 
   FormControls& Controls() { return controls_; }
 

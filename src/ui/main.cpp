@@ -1,48 +1,71 @@
+// vorlane: the window. One argument, a folder to start in; or "/Uninstall".
 #include <QApplication>
 
-#include "catalogue/operations_file.h"
 #include "platform/file_name_bytes.h"
-#include "platform/posix_file_system.h"
 #include "platform/program_folder.h"
+#include "platform/user_folders.h"
+#include "shell/start_up.h"
 #include "ui/application_look.h"
+#include "ui/desktop_services.h"
 #include "ui/fade_out.h"
-#include "ui/program.h"
-#include "ui/qt_prompter.h"
-#include "ui/qt_text.h"
+#include "ui/main_window_load.h"
 #include "ui/stop_signal.h"
+#include "ui/uninstall.h"
 
 namespace {
-struct NoMemory : vorlane::BoxMemory {
-  std::optional<vorlane::Text> Recall(vorlane::TextView) override { return {}; }
-  void Keep(vorlane::TextView, vorlane::TextView) override {}
-};
-struct NoReport : vorlane::FailureReport {
-  void ReportError(vorlane::TextView, vorlane::TextView p, vorlane::TextView,
-                   const vorlane::RunError& error) override {
-    qWarning() << vorlane::ToQString(p) << vorlane::ToQString(error.Description());
+
+using namespace vorlane;
+
+Text CommandLine(int argc, char** argv) {
+  std::vector<Text> arguments;
+  for (int i = 1; i < argc; ++i) {
+    arguments.push_back(TextFromBytes(argv[i]));
   }
-};
+  return CommandLineOf(arguments);
+}
+
+// X11 alone lets a program place its windows; under Wayland it comes through XWayland.
+void PreferX11() {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+  }
+}
+
+int RunWindow(QApplication& app, const Text& commandLine) {
+  QtPrompter prompts;
+  DesktopServices services(prompts);
+  Program program(services.ForProgram(), {});
+  FrmMain& window = program.Window();
+  prompts.SetParent(&window);
+  bool fades = true;
+  program.OnClosing = [&] {
+    UnloadMainWindow(program, services);
+    if (fades) {
+      FadeOut(window);
+    }
+  };
+  const StopSignal stop([&] {
+    fades = false;
+    program.Close();
+  });
+  QObject::connect(&app, &QGuiApplication::commitDataRequest, [&] { fades = false; });
+  LoadMainWindow(program, services, ProgramFolder());
+  program.Show();
+  const Text start = ChooseStartFolder(
+      services.Files, services.Settings, commandLine,
+      {.WorkingFolder = WorkingFolder(), .ProgramFolder = FolderOf(ProgramFile())});
+  program.ShowFolder(start);
+  return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  using namespace vorlane;
-  QApplication app(argc, argv);
+  if (IsUninstall(CommandLine(argc, argv))) {
+    return RunUninstall(argc, argv);
+  }
+  PreferX11();
+  QApplication app(argc, argv);  // takes its own arguments out
   SetApplicationLook();
-  SystemClock clock;
-  PosixFileSystem files;
-  NoReport report;
-  QtPrompter prompts;
-  NoMemory memory;
-  Program program({files, clock, report, prompts, memory}, {});
-  program.Wildcard().LoadItems(u"");
-  auto tree = LoadOperationsFile(files, ProgramFolder());
-  if (tree)
-    program.ShowOperations(*std::move(tree));
-  program.Window().InitLayout();
-  program.Wildcard().FormVisible = true;
-  program.Window().show();
-  program.SelectOperation(1);
-  if (argc > 1)
-    program.Gate().Start([&] { program.Browser().ShowFolderBrowser(TextFromBytes(argv[1])); });
-  return app.exec();
+  return RunWindow(app, CommandLine(argc, argv));
 }

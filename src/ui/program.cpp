@@ -51,6 +51,7 @@ Program::Program(const ProgramServices& services, const TimerIntervals& interval
       listTimers_(form_, services_, list_, preview_),
       gate_(form_.Jobs),
       timers_(intervals),
+      window_(services.Files),
       browser_(form_, services_, list_, *window_.Controls().Folders),
       keys_(window_) {
   presenter_.Attach(form_, window_, gate_, timers_);
@@ -83,6 +84,27 @@ void Program::SelectOperation(std::int32_t index) {
   });
 }
 
+void Program::Show() {
+  window_.show();
+  wildcard_.FormVisible = true;
+}
+
+void Program::ShowFolder(const Text& folder) {
+  QTimer::singleShot(0, &window_, [this, folder] {
+    gate_.Start([this, &folder] { browser_.ShowFolderBrowser(folder); });
+  });
+}
+
+void Program::PreviewAll() {
+  gate_.Start([this] { events_.lblFileStatus_DblClick(); });
+}
+
+Text Program::SelectedTitle() const {
+  const auto index = static_cast<std::size_t>(form_.SelectedOperation);
+  return index == 0 || index > operations_.Nodes.size() ? Text()
+                                                        : operations_.Nodes[index - 1].Title;
+}
+
 void Program::ConnectButtons() {
   const auto connect = [](QPushButton* button, std::function<void()> handler) {
     QObject::connect(button, &QPushButton::clicked, button, std::move(handler));
@@ -113,9 +135,7 @@ void Program::ConnectList() {
   view.OnFolderDropped = [this](const QString& folder) {
     gate_.Start([this, path = ToText(folder)] { browser_.FolderDropped({path}); });
   };
-  window_.OnFileStatusDoubleClicked = [this] {
-    gate_.Start([this] { events_.lblFileStatus_DblClick(); });
-  };
+  window_.OnFileStatusDoubleClicked = [this] { PreviewAll(); };
 }
 
 void Program::ConnectTrees() {
@@ -204,10 +224,19 @@ void Program::ConnectWindow() {
   window_.OnClose = [this] { return MayClose(); };
   gate_.OnIdle = [this] {
     presenter_.Refresh();
+    RefreshFolders();
     if (closeWanted_ && !closed_) {
       QTimer::singleShot(0, &window_, [this] { window_.close(); });
     }
   };
+}
+
+// A run and its undo make folders and take them away.
+void Program::RefreshFolders() {
+  if (form_.Rows.Generation() != shownGeneration_) {
+    shownGeneration_ = form_.Rows.Generation();
+    window_.Controls().Folders->Refresh(form_.CurrentPath);
+  }
 }
 
 void Program::Go() {
@@ -244,7 +273,7 @@ bool Program::FocusNextBox() {
     return true;
   }
   for (const BoxControls& box : window_.Controls().Boxes) {
-    if (box.Content->isVisible()) {
+    if (box.Content->isVisible() && box.Content->isEnabled()) {
       box.Content->setFocus(Qt::TabFocusReason);  // the only one
       return true;
     }

@@ -45,6 +45,16 @@ class Program {
   // Selects an operation as a click on it does; the first one if there is none of that index.
   void SelectOperation(std::int32_t index);
 
+  // Shows the window, and a folder in it as soon as the window can be seen.
+  void Show();
+  void ShowFolder(const Text& folder);
+
+  // Previews every row on demand.
+  void PreviewAll();
+
+  // What the tree calls the selected operation.
+  Text SelectedTitle() const;
+
   // Asks the jobs to stop and closes the window as soon as they have ended.
   void Close();
 
@@ -67,6 +77,7 @@ class Program {
   void ConnectKeys();
   void ConnectWindow();
   bool MayClose();
+  void RefreshFolders();
   void Go();
   void FocusNextPane(bool back);
   bool FocusNextBox();
@@ -91,6 +102,7 @@ class Program {
   FolderBrowser browser_;
   WindowKeys keys_;
   OperationsTree operations_;
+  std::uint64_t shownGeneration_ = 0;  // of the list, when the folder tree was last read again
   bool closeWanted_ = false;
   bool closed_ = false;
 };

@@ -151,6 +151,12 @@ TEST_F(OptionBoxesTest, TabCyclesThroughTheShownBoxes) {
   EXPECT_EQ(Boxes.NextBox(), 1);
 }
 
+TEST_F(OptionBoxesTest, TabPassesOverABoxThatIsNotOpen) {
+  World.ShowBox(2, u"").Enabled = false;
+  World.ShowBox(3, u"");
+  EXPECT_EQ(Boxes.NextBox(), 2);
+}
+
 TEST_F(OptionBoxesTest, WithOneBoxTabStaysThere) {
   World.ShowBox(3, u"");
   Boxes.txtRenameOption_GotFocus(2);

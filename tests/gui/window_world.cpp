@@ -1,5 +1,7 @@
 #include "gui/window_world.h"
 
+#include "platform/file_name_bytes.h"
+
 namespace vorlane {
 
 namespace {
@@ -17,8 +19,7 @@ constexpr TimerIntervals ShortIntervals{.FileCounter = 100,
 WindowWorld::WindowWorld() : Main({Files, Time, Report, Prompts, Memory}, ShortIntervals) {
   Main.Wildcard().LoadItems(u"");
   Main.Window().InitLayout();
-  Main.Wildcard().FormVisible = true;
-  Main.Window().show();
+  Main.Show();
   EXPECT_TRUE(QTest::qWaitForWindowExposed(&Main.Window()));
 }
 

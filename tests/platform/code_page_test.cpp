@@ -56,5 +56,10 @@ TEST(CodePage, AUnitWithoutAByteIsWrittenAsAQuestionMark) {
   EXPECT_EQ(TextFromCodePage(""), u"");
 }
 
+TEST(CodePage, AUnitWithoutAByteCanStandAsItsNumber) {
+  EXPECT_EQ(EscapedCodePageBytes(u"a\u65E5|\u0080\u20AC\r\n"), "a//65E5|//0080\x80\r\n");
+  EXPECT_EQ(EscapedCodePageBytes(u"\xDCAB//"), "//DCAB//");
+}
+
 }  // namespace
 }  // namespace vorlane

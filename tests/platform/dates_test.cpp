@@ -79,6 +79,14 @@ TEST(Dates, PartsAreCutOff) {
   EXPECT_EQ(GeneralDate(Date(2026, 11, 15)->TimePart()), u"12:00:00 AM");
 }
 
+TEST(Dates, ADateHasItsDayOfTheCalendar) {
+  const CalendarDay days[] = {
+      {2006, 3, 7}, {1899, 12, 31}, {100, 1, 1}, {9999, 12, 31}, {2024, 2, 29}};
+  for (const CalendarDay& day : days) {
+    EXPECT_EQ(CalendarDayOf(*MakeDateTime(day.Year, day.Month, day.Day, 23, 59, 59)), day);
+  }
+}
+
 TEST(Dates, DatesAreRead) {
   const struct {
     Text text;

@@ -605,6 +605,17 @@ TEST_P(FileSystemContract, RemovesFilesAndLinksNeverFolders) {
   EXPECT_FALSE(files_.RemoveFile(P(u"file")));
 }
 
+TEST_P(FileSystemContract, OnlyFilesBecomePrograms) {
+  MakeOneOfEach();
+  for (const TextView name : {u"file", u"link", u".hidden"}) {
+    EXPECT_TRUE(files_.MakeExecutable(P(name)));
+  }
+  for (const TextView name : {u"folder", u"dangling", u"other", u"missing"}) {
+    EXPECT_FALSE(files_.MakeExecutable(P(name)));
+  }
+  EXPECT_EQ(files_.ReadFileBytes(P(u"file")), "content");
+}
+
 TEST_P(FileSystemContract, CaseMattersOrItDoesnt) {
   disk_->Write(u"Name", "content");
   const bool ignoresCase = disk_->IgnoresCase();

@@ -252,5 +252,23 @@ TEST(PosixFileSystem, ANewFileIsForItsUserToWriteAndForAllToRead) {
   EXPECT_EQ(status.st_mode & 07777, 0777U);
 }
 
+TEST(PosixFileSystem, WhoMayReadAProgramMayRunIt) {
+  const TemporaryFolder folder;
+  folder.Write("file");
+  const std::string path = folder.Path() + "file";
+  PosixFileSystem files;
+  for (const auto& [before, after] : {std::pair(0644U, 0755U),
+                                      {0600U, 0700U},
+                                      {0640U, 0750U},
+                                      {0444U, 0555U},
+                                      {02604U, 02705U}}) {
+    ASSERT_EQ(chmod(path.c_str(), before), 0);
+    EXPECT_TRUE(files.MakeExecutable(AsciiText(path)));
+    struct stat status {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, after);
+  }
+}
+
 }  // namespace
 }  // namespace vorlane

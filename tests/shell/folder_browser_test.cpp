@@ -84,6 +84,19 @@ TEST_F(FolderBrowserTest, AFolderThatHasVanishedGivesWayToTheRoot) {
   EXPECT_EQ(Tree.Shown.back(), u"/");
 }
 
+TEST_F(FolderBrowserTest, ASelectionInTheMiddleOfARunLeavesItsJournalAlone) {
+  Browser.ShowFolderBrowser(u"/R");
+  LeaveJournal(u"/R/");
+  {
+    const JournalInUse undo(State);
+    Browser.SelectionChanged(u"/S");
+  }
+  State.Jobs.BatchState = JobState::Running;
+  Browser.SelectionChanged(u"/S");
+  EXPECT_EQ(State.CurrentPath, u"/R/");
+  EXPECT_TRUE(HasJournal(u"/R/"));
+}
+
 TEST_F(FolderBrowserTest, ADropDeletesTheJournalOfTheDroppedFolderAndKeepsTheOther) {
   Browser.ShowFolderBrowser(u"/R");
   LeaveJournal(u"/R/");

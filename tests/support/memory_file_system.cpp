@@ -376,6 +376,18 @@ bool MemoryFileSystem::RemoveFolder(TextView path) {
   return true;
 }
 
+bool MemoryFileSystem::MakeExecutable(TextView path) {
+  if (!Action(u"MakeExecutable", path)) {
+    return false;
+  }
+  const auto node = tree_.Resolve(path);
+  if (node == nullptr || node->Kind != MemoryKind::File) {
+    return false;
+  }
+  node->Executable = true;
+  return true;
+}
+
 bool MemoryFileSystem::RemoveFile(TextView path) {
   if (!Action(u"RemoveFile", path)) {
     return false;

@@ -67,6 +67,7 @@ class MemoryFileSystem final : public FileSystem {
   // A file can't be opened, a folder can't be listed.
   void SetUnreadable(TextView path, bool unreadable = true);
   void SetInUse(TextView path, bool inUse = true);
+  bool IsExecutable(TextView path) const;
   void SetTimes(TextView path, const FileTimes& times);
   // What StatusOf and listings tell of a file that is larger than its bytes.
   void SetReportedSize(TextView path, std::uint64_t size);
@@ -111,6 +112,7 @@ class MemoryFileSystem final : public FileSystem {
   bool RemoveFolder(TextView path) override;
   void CreateFile(TextView path, std::string_view bytes) override;
   void AppendToFile(TextView path, std::string_view bytes) override;
+  bool MakeExecutable(TextView path) override;
   bool RemoveFile(TextView path) override;
 
  private:

@@ -78,6 +78,10 @@ void MemoryFileSystem::SetInUse(TextView path, bool inUse) {
   Existing(path).InUse = inUse;
 }
 
+bool MemoryFileSystem::IsExecutable(TextView path) const {
+  return Existing(path).Executable;
+}
+
 void MemoryFileSystem::SetTimes(TextView path, const FileTimes& times) {
   Existing(path).Times = times;
 }

@@ -33,6 +33,7 @@ struct MemoryNode {
   bool ReadOnly = false;
   bool Unreadable = false;
   bool InUse = false;
+  bool Executable = false;
   int Writers = 0;  // open handles that may write
   // Of a folder only: the one that holds it, and what it holds by the key of the name.
   std::weak_ptr<MemoryNode> Parent;

@@ -1,0 +1,133 @@
+#include "ui/main_window_load.h"
+
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QScreen>
+
+#include "catalogue/operations_file.h"
+#include "platform/interface_texts.h"
+#include "platform/program_folder.h"
+#include "shell/start_up.h"
+#include "shell/stored_values.h"
+#include "ui/qt_text.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr Column AllColumns[] = {Column::CurrentName, Column::ProposedName, Column::Artist,
+                                 Column::Title,       Column::ID3v1,        Column::ID3v2,
+                                 Column::ReadOnly,    Column::Path};
+
+// A program on Wayland is told nothing of its window's place.
+bool KnowsPlaces() {
+  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+class WindowAtExit final : public ClosingWindow {
+ public:
+  WindowAtExit(FrmMain& window, Settings& settings) : window_(window), settings_(settings) {}
+
+  // A width that nobody has changed stays as it was stored, finer than pixels.
+  Twips ColumnWidth(Column column) override {
+    const int pixels = window_.Controls().FileList->header()->sectionSize(static_cast<int>(column));
+    const Twips stored = StoredColumnWidth(settings_, column);
+    return PixelsOf(stored) == pixels ? stored : TwipsOf(pixels);
+  }
+  bool IsMaximized() override { return window_.isMaximized(); }
+  NormalPlace Placement() override {
+    const TwipsRect place = window_.NormalPlacement();
+    NormalPlace result{.Width = place.Width, .Height = place.Height};
+    if (KnowsPlaces()) {
+      result.Left = place.Left;
+      result.Top = place.Top;
+    }
+    return result;
+  }
+
+ private:
+  FrmMain& window_;
+  Settings& settings_;
+};
+
+void LoadColumns(Program& program, Settings& settings) {
+  QHeaderView& header = *program.Window().Controls().FileList->header();
+  for (const Column column : AllColumns) {
+    header.resizeSection(static_cast<int>(column), PixelsOf(StoredColumnWidth(settings, column)));
+  }
+}
+
+void LoadOperations(Program& program, DesktopServices& services, const Text& folder) {
+  auto tree = LoadOperationsFile(services.Files, folder);
+  if (!tree) {
+    Text message = u"'";
+    message.append(folder).append(OperationsFileName).append(u"'");
+    message.append(InterfaceText(TextNumber::IsMissing));
+    services.Prompts.Show(BoxIcon::Stop, ApplicationTitle, message);
+    program.Window().Controls().Go->setEnabled(false);
+    return;
+  }
+  const auto failure = tree->Failure;
+  program.ShowOperations(*std::move(tree));
+  if (failure) {
+    services.Report.ReportError(FormName, u"LoadInterfaceElements", u"", *failure);
+  }
+}
+
+void RestoreStoredPlace(FrmMain& window, Settings& settings) {
+  const QSize screen = QGuiApplication::primaryScreen()->virtualSize();
+  WindowPlacement stored = StoredPlacement(settings);
+  if (!KnowsPlaces()) {
+    stored.Left.reset();
+    stored.Top.reset();
+  }
+  window.RestorePlacement(RestoreWindowPlacement(
+      stored, {.ScreenWidth = TwipsOf(screen.width()), .ScreenHeight = TwipsOf(screen.height())}));
+}
+
+void PlaceWindow(FrmMain& window, Settings& settings) {
+  if (StoredMaximized(settings)) {
+    window.setWindowState(window.windowState() | Qt::WindowMaximized);
+  } else {
+    RestoreStoredPlace(window, settings);
+  }
+}
+
+RunValues ValuesOf(Program& program, FileSystem& files) {
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  RunValues values = RunValuesOf(program.State());
+  values.ProgramSize = files.StatusOf(ProgramFile()).Size;
+  values.ScreenWidth = screen.width();
+  values.ScreenHeight = screen.height();
+  values.OperationText = program.SelectedTitle();
+  return values;
+}
+
+}  // namespace
+
+void LoadMainWindow(Program& program, DesktopServices& services, const Text& programFolder) {
+  FrmMain& window = program.Window();
+  services.Report.SetRunValues([&] { return ValuesOf(program, services.Files); });
+  UpgradeSettings(services.Registry);
+  Settings& settings = services.Settings;
+  program.Wildcard().LoadItems(settings.GetSetting(SettingsSection, SettingKey::WildCards, u""));
+  LoadColumns(program, settings);
+  LoadOperations(program, services, programFolder);
+  window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
+  program.SelectOperation(StoredLastOperation(settings));
+  window.InitLayout();
+  PlaceWindow(window, settings);
+  window.OnRestored = [&window, &settings] {
+    if (StoredMaximized(settings)) {
+      RestoreStoredPlace(window, settings);
+    }
+  };
+}
+
+void UnloadMainWindow(Program& program, DesktopServices& services) {
+  WindowAtExit window(program.Window(), services.Settings);
+  SaveSettingsAtExit(program.State(), window, services.ForShutDown(),
+                     FullProgramPath(services.Files, ProgramFile()));
+}
+
+}  // namespace vorlane

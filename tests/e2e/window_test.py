@@ -1,0 +1,297 @@
+#!/usr/bin/env python3
+"""The window on a real display with a window manager: what no screen in memory can show.
+
+Usage: window_test.py FOLDER-OF-THE-PROGRAMS
+Needs Xvfb, openbox and xdotool. Each test has a display, a home and files of its own.
+"""
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+BIN = pathlib.Path(sys.argv.pop(1)).resolve() if len(sys.argv) > 1 else None
+TITLE = "Vorlane 2006"
+PATIENCE = 20  # seconds; only a failing test waits so long
+
+CATALOGUE = (
+    "Operation Name:\tPrefix\r\nStep: <BOX1><FILENAME>\r\nHelp Message: Puts a text in front\r\n"
+    "Available Boxes: 1\r\nBox Name: Text\r\nBox Display: Registry(Prefix|new )\r\n"
+    "Box ToolTip: \r\nBox Check: \r\n"
+    "Operation Name:\tMusic\r\nStep: <UPPERCASE><FILENAME></UPPERCASE>\r\nHelp Message: Music\r\n"
+    "Wildcard: *.mp3\r\nAvailable Boxes: 0\r\n"
+)
+
+# Places in the client area, in pixels.
+GO = (915, 430)
+UNDO = (985, 209)
+EXIT = (982, 70)
+DO_ONE = (502, 30)
+BOX_1 = (300, 410)
+WILDCARD = (715, 28)
+SECOND_OPERATION = (120, 396)
+
+
+def wait_for(condition, what):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError(f"waited in vain for {what}")
+
+
+class Display:
+    """A virtual display with a window manager."""
+
+    def __init__(self, size="1400x1050"):
+        read, write = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+            pass_fds=[write], stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as number:
+            self.name = ":" + number.readline().strip()
+        self.manager = subprocess.Popen(["openbox"], env=self.environment(),
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(lambda: self.run("xdotool", "get_desktop").returncode == 0, "the window manager")
+
+    def environment(self):
+        return dict(os.environ, DISPLAY=self.name)
+
+    def run(self, *command):
+        return subprocess.run(command, env=self.environment(), capture_output=True, text=True)
+
+    def close(self):
+        for process in (self.manager, self.server):
+            process.terminate()
+            process.wait()
+
+
+class WindowTest(unittest.TestCase):
+    def setUp(self):
+        self.work = pathlib.Path(tempfile.mkdtemp(prefix="vorlane-e2e-"))
+        self.addCleanup(shutil.rmtree, self.work)
+        self.files = self.work / "files"
+        self.files.mkdir()
+        for name in ("a.txt", "b.txt", "c.mp3"):
+            (self.files / name).write_text(name)
+        self.program_folder = self.work / "program"
+        self.program_folder.mkdir()
+        (self.program_folder / "Operations.ini").write_bytes(CATALOGUE.encode())
+        self.home = self.work / "home"
+        self.home.mkdir()
+        self.display = Display()
+        self.addCleanup(self.display.close)
+        self.process = None
+
+    def environment(self, **more):
+        environment = {key: value for key, value in self.display.environment().items()
+                       if not key.startswith("XDG_")}
+        runtime = self.work / "runtime"
+        runtime.mkdir(mode=0o700, exist_ok=True)
+        return dict(environment, HOME=str(self.home), XDG_RUNTIME_DIR=str(runtime),
+                    VORLANE_HOME=str(self.program_folder), VORLANE_NO_FADE="1", **more)
+
+    def start(self, *arguments, **environment):
+        self.process = subprocess.Popen([BIN / "vorlane", *map(str, arguments)],
+                                        env=self.environment(**environment), cwd=self.work)
+        self.addCleanup(self.kill, self.process)
+        self.window = wait_for(self.find_window, "the window")
+        self.display.run("xdotool", "windowactivate", "--sync", self.window)
+        wait_for(lambda: self.setting("StartPath") is not None or self.is_up(), "the first listing")
+
+    def is_up(self):
+        return self.find_window() is not None
+
+    def find_window(self):
+        found = self.display.run("xdotool", "search", "--onlyvisible", "--name", TITLE).stdout.split()
+        return found[0] if found else None
+
+    @staticmethod
+    def kill(process):
+        if process.poll() is None:
+            process.kill()
+        process.wait()
+
+    def click(self, place, *more):
+        self.display.run("xdotool", "mousemove", "--window", self.window, *map(str, place),
+                         "click", *more, "1")
+
+    def keys(self, *keys):
+        self.display.run("xdotool", "key", *keys)
+
+    def type(self, text):
+        self.display.run("xdotool", "type", text)
+
+    def close(self):
+        self.keys("ctrl+q")
+        self.assertEqual(self.ended(), 0)
+
+    def ended(self):
+        return wait_for(lambda: self.process.poll() is not None, "the end") and self.process.poll()
+
+    def names(self):
+        return sorted(entry.name for entry in self.files.iterdir() if entry.name != "UNDORENAME.TXT")
+
+    def names_become(self, *names):
+        wait_for(lambda: self.names() == sorted(names), f"{names}, there is {self.names()}")
+
+    def registry(self):
+        path = self.home / ".config/vorlane/registry.conf"
+        return path.read_text() if path.exists() else ""
+
+    def setting(self, key):
+        for line in self.registry().splitlines():
+            if line.startswith(key + "="):
+                return line.split(":", 1)[1]
+        return None
+
+    def geometry(self):
+        lines = self.display.run("xdotool", "getwindowgeometry", "--shell", self.window).stdout
+        values = dict(line.split("=") for line in lines.split())
+        return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def test_a_whole_visit(self):
+        self.start(self.files)
+        self.click(DO_ONE)
+        self.click(GO)
+        self.names_become("new a.txt", "new b.txt", "new c.mp3")
+        wait_for((self.files / "UNDORENAME.TXT").exists, "the journal")
+        self.click(UNDO)
+        self.names_become("a.txt", "b.txt", "c.mp3")
+        self.click(BOX_1)
+        self.keys("ctrl+a")
+        self.type("my ")
+        self.keys("Return")
+        self.names_become("my a.txt", "my b.txt", "my c.mp3")
+        self.close()
+        self.assertFalse((self.files / "UNDORENAME.TXT").exists())
+        self.assertEqual(self.setting("Prefix"), "my ")
+        self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+
+    def test_everything_is_found_as_it_was_left(self):
+        self.start(self.files)
+        self.click(SECOND_OPERATION)
+        self.click(WILDCARD)
+        self.keys("ctrl+a")
+        self.type("*.ogg")
+        self.display.run("xdotool", "windowsize", "--sync", self.window, "1100", "600")
+        self.display.run("xdotool", "windowmove", "--sync", self.window, "150", "120")
+        time.sleep(1.2)  # the pause behind the typing
+        self.close()
+        self.assertEqual(self.setting("LastOperation"), "2")
+        self.assertEqual(self.setting("WildCards"), "*.*|*.mp3|*.ogg")
+        self.assertEqual(self.setting("Width"), str(1100 * 15))
+        self.assertEqual(self.setting("Height"), str(600 * 15))
+        self.assertEqual(self.setting("Maximized"), "0")
+        first_place = (self.setting("Left"), self.setting("Top"))
+        self.start()
+        self.assertEqual(self.geometry()[2:], (1100, 600))
+        self.close()
+        self.assertEqual((self.setting("Left"), self.setting("Top")), first_place)
+        self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+
+    def test_a_maximized_window_comes_back_maximized_and_gets_its_old_size_again(self):
+        self.start(self.files)
+        self.display.run("xdotool", "windowsize", "--sync", self.window, "1100", "600")
+        self.close()
+        self.start()
+        self.keys("super+Up")
+        self.display.run("wmctrl", "-i", "-r", self.window, "-b", "add,maximized_vert,maximized_horz")
+        wait_for(lambda: self.geometry()[2] > 1300, "the maximized window")
+        self.close()
+        self.assertEqual(self.setting("Maximized"), "1")
+        self.assertEqual(self.setting("Width"), str(1100 * 15))
+        self.start()
+        wait_for(lambda: self.geometry()[2] > 1300, "the maximized window")
+        self.display.run("wmctrl", "-i", "-r", self.window, "-b",
+                         "remove,maximized_vert,maximized_horz")
+        wait_for(lambda: self.geometry()[2:] == (1100, 600), "the old size")
+        self.close()
+
+    def test_widths_that_nobody_changed_stay_as_they_were(self):
+        self.start(self.files)
+        self.close()
+        self.assertEqual(self.setting("FileNameWidth"), "4000")
+        self.assertEqual(self.setting("PathWidth"), "6000")
+
+    def test_the_window_managers_close_is_an_exit(self):
+        self.start(self.files)
+        self.display.run("wmctrl", "-i", "-c", self.window)
+        self.assertEqual(self.ended(), 0)
+        self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+
+    def test_the_exit_button_ends_the_program(self):
+        self.start(self.files)
+        self.click(EXIT)
+        self.assertEqual(self.ended(), 0)
+
+    def test_sigterm_ends_in_good_order(self):
+        self.start(self.files)
+        self.process.send_signal(signal.SIGTERM)
+        self.assertEqual(self.ended(), 0)
+        self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+
+    def test_what_is_typed_is_kept_at_once_and_outlives_a_crash(self):
+        self.start(self.files)
+        self.click(BOX_1)
+        self.keys("ctrl+a")
+        self.type("shared ")
+        wait_for(lambda: self.setting("Prefix") == "shared ", "the kept text")
+        first = self.process
+        first.kill()
+        first.wait()
+        self.start(self.files)
+        self.click(GO)
+        self.names_become("shared a.txt", "b.txt", "c.mp3")
+        self.close()
+
+    def test_an_exit_writes_the_verb_and_context_0_takes_it_away(self):
+        entry = self.home / ".local/share/applications/vorlane-folder.desktop"
+        self.start(self.files)
+        self.assertFalse(entry.exists())
+        self.close()
+        self.assertIn(str(BIN / "vorlane"), entry.read_text())
+        path = self.home / ".config/vorlane/registry.conf"
+        text = path.read_text()
+        path.write_text(text.replace("\nMaximized=", "\nContext=sz:0\nMaximized="))
+        self.start()
+        self.close()
+        self.assertFalse(entry.exists())
+
+    def test_uninstall_without_a_display_asks_at_the_terminal(self):
+        self.start(self.files)
+        self.close()
+        environment = {key: value for key, value in self.environment().items()
+                       if key not in ("DISPLAY", "WAYLAND_DISPLAY")}
+        for answer, kept in (("n\n", True), ("y\n", False)):
+            done = subprocess.run([BIN / "vorlane", "/Uninstall"], input=answer, text=True,
+                                  env=environment, capture_output=True, timeout=PATIENCE)
+            self.assertEqual(done.returncode, 0)
+            self.assertIn("Delete all saved settings?", done.stdout)
+            self.assertEqual(self.setting("StartPath") is not None, kept)
+        entry = self.home / ".local/share/applications/vorlane-folder.desktop"
+        self.assertFalse(entry.exists())
+
+    def test_a_missing_catalogue_is_told_and_bars_go(self):
+        (self.program_folder / "Operations.ini").unlink()
+        self.process = subprocess.Popen([BIN / "vorlane", str(self.files)], env=self.environment())
+        self.addCleanup(self.kill, self.process)
+        wait_for(self.find_window, "the message box")
+        time.sleep(0.3)
+        self.keys("Return")
+        self.window = wait_for(self.find_window, "the window")
+        time.sleep(0.5)
+        self.click(GO)
+        self.close()
+        self.assertEqual(self.names(), ["a.txt", "b.txt", "c.mp3"])
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)

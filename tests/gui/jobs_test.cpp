@@ -1,0 +1,124 @@
+// Stop, keys and the closing of the window in the middle of jobs.
+#include "gui/window_world.h"
+
+namespace vorlane {
+namespace {
+
+struct JobsTest : testing::Test {
+  JobsTest() {
+    for (int i = 0; i < 3000; ++i) {
+      World.Folder.Write("f" + std::to_string(10000 + i));
+    }
+    World.LoadOperations({u"Operation Name:\tX", u"Step: x<FILENAME>", u"Help Message: h",
+                          u"Available Boxes: 0", u""});
+    World.Main.SelectOperation(1);
+    World.Open(World.Folder.Path());
+  }
+  int Renamed() const {
+    int renamed = 0;
+    for (const auto& [name, bytes] : World.Folder.Contents()) {
+      renamed += name.starts_with("x") ? 1 : 0;
+    }
+    return renamed;
+  }
+  // Does something as soon as the run has renamed some rows.
+  void InTheMiddleOfARun(std::function<void()> act) {
+    World.Click("cmdDoOne");
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&, done = false]() mutable {
+      if (!done && World.Main.State().Jobs.BatchState == JobState::Running &&
+          World.Main.State().Rows.Selected() > 100) {
+        done = true;
+        Acted = true;
+        act();
+      }
+    });
+    poll.start(0);
+    World.Click("cmdGo");
+  }
+
+  WindowWorld World;
+  bool Acted = false;
+};
+
+TEST_F(JobsTest, StopEndsARunBehindTheRowInHand) {
+  InTheMiddleOfARun([&] {
+    EXPECT_TRUE(World.Find<QWidget>("cmdStop").isVisible());
+    EXPECT_FALSE(World.Find<QWidget>("cmdGo").isVisible());
+    World.Click("cmdStop");
+  });
+  EXPECT_TRUE(Acted);
+  EXPECT_GT(Renamed(), 0);
+  EXPECT_LT(Renamed(), 3000);
+  EXPECT_TRUE(World.Folder.Exists("UNDORENAME.TXT"));
+  EXPECT_FALSE(World.Find<QWidget>("cmdUndo").isEnabled());
+  EXPECT_TRUE(World.Find<QWidget>("cmdGo").isVisible());
+}
+
+TEST_F(JobsTest, EscapeStopsARun) {
+  InTheMiddleOfARun([&] { QTest::keyClick(&World.Main.Window(), Qt::Key_Escape); });
+  EXPECT_LT(Renamed(), 3000);
+}
+
+TEST_F(JobsTest, EnterInTheMiddleOfARunStartsNoSecondOne) {
+  InTheMiddleOfARun([&] {
+    QTest::keyClick(&World.Main.Window(), Qt::Key_Return);
+    EXPECT_EQ(World.Main.State().Jobs.BatchState, JobState::Running);
+  });
+  EXPECT_EQ(Renamed(), 3000);
+}
+
+TEST_F(JobsTest, NothingElseBeginsInTheMiddleOfARun) {
+  InTheMiddleOfARun([&] {
+    const int rows = World.Main.State().Rows.Count();
+    World.Click("cmdListFiles");
+    World.Click("cmdThisFolderOnly");
+    World.Click("cmdDoAll");
+    QTest::keyClick(&World.Main.Window(), Qt::Key_F5);
+    EXPECT_FALSE(World.Find<QWidget>("lstRenamingOperations").isEnabled());
+    EXPECT_FALSE(World.Find<QWidget>("picBrowse").isEnabled());
+    EXPECT_EQ(World.Main.State().Rows.Count(), rows);
+  });
+  EXPECT_TRUE(World.Find<QWidget>("cmdDoAll").isVisible());
+  EXPECT_EQ(Renamed(), 3000);
+}
+
+TEST_F(JobsTest, ClosingInTheMiddleOfARunEndsItFirst) {
+  bool closed = false;
+  World.Main.OnClosing = [&] {
+    closed = true;
+    EXPECT_TRUE(World.Main.State().IsIdle());
+  };
+  InTheMiddleOfARun([&] {
+    World.Main.Window().close();
+    EXPECT_FALSE(closed);
+    EXPECT_TRUE(World.Main.Window().isVisible());
+  });
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return !World.Main.Window().isVisible(); }));
+  EXPECT_TRUE(closed);
+  EXPECT_LT(Renamed(), 3000);
+  EXPECT_TRUE(World.Folder.Exists("UNDORENAME.TXT"));
+}
+
+TEST_F(JobsTest, AnOperationPickedInTheMiddleOfAPreviewComesBehindIt) {
+  World.LoadOperations({u"Operation Name:\tX", u"Step: x<FILENAME>", u"Help Message: h",
+                        u"Available Boxes: 0", u"", u"Operation Name:\tY", u"Step: y<FILENAME>",
+                        u"Help Message: h", u"Available Boxes: 0", u""});
+  World.Main.SelectOperation(1);
+  QElapsedTimer time;
+  time.start();
+  QTimer::singleShot(0, [&] { World.Main.SelectOperation(2); });
+  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  EXPECT_EQ(World.ColumnTexts(Column::ProposedName).front(), "yf10000");
+  EXPECT_LT(time.elapsed(), 2500);  // it didn't wait for a preview that couldn't go on
+}
+
+TEST_F(JobsTest, StopEndsAPreview) {
+  QTimer::singleShot(0, [&] { World.Main.State().Jobs.RequestStop(); });
+  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  EXPECT_TRUE(World.ColumnTexts(Column::ProposedName).contains(QString()));
+  EXPECT_EQ(World.Main.State().Jobs.PreviewState, JobState::Idle);
+}
+
+}  // namespace
+}  // namespace vorlane

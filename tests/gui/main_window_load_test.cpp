@@ -1,0 +1,172 @@
+// The load and the end of the main window, over a settings file of the test's own.
+#include "ui/main_window_load.h"
+
+#include "gui/window_world.h"
+#include "platform/file_name_bytes.h"
+
+namespace vorlane {
+namespace {
+
+constexpr const char* Operations =
+    "Operation Name:\tOne\r\nStep: x<FILENAME>\r\nHelp Message: h1\r\nAvailable Boxes: 0\r\n"
+    "Operation Name:\tTwo\r\nStep: y<FILENAME>\r\nHelp Message: h2\r\nAvailable Boxes: 0\r\n";
+
+struct MainWindowLoadTest : testing::Test {
+  MainWindowLoadTest() {
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+      qputenv(name, QByteArray::fromStdString(Folder.Path() + name));
+    }
+    Folder.Write("program/Operations.ini", Operations);
+  }
+  ~MainWindowLoadTest() override {
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+      qunsetenv(name);
+    }
+  }
+
+  struct Run {
+    Run(Prompter& prompts, const Text& folder)
+        : Services(prompts), Main(Services.ForProgram(), {}) {
+      LoadMainWindow(Main, Services, folder);
+      Main.Show();
+    }
+    DesktopServices Services;
+    Program Main;
+  };
+  Run& Load() {
+    Current = std::make_unique<Run>(Prompts, Folder.TextPath() + u"program/");
+    return *Current;
+  }
+  void Store(TextView key, TextView value) {
+    DesktopServices services(Prompts);
+    services.Settings.SaveSetting(SettingsSection, key, value);
+  }
+  Text Stored(TextView key) {
+    DesktopServices services(Prompts);
+    return services.Settings.GetSetting(SettingsSection, key, u"none");
+  }
+  static int WidthOf(Run& run, Column column) {
+    return run.Main.Window().Controls().FileList->header()->sectionSize(static_cast<int>(column));
+  }
+  static QStringList WildCards(Run& run) {
+    const QComboBox& box = *run.Main.Window().Controls().WildCard;
+    QStringList items;
+    for (int i = 0; i < box.count(); ++i) {
+      items << box.itemText(i);
+    }
+    return items;
+  }
+
+  TemporaryFolder Folder;
+  RecordingPrompter Prompts;
+  std::unique_ptr<Run> Current;
+};
+
+TEST_F(MainWindowLoadTest, AFirstRunHasTheDefaults) {
+  Run& run = Load();
+  EXPECT_EQ(WildCards(run), QStringList({"*.*", "*.mp3"}));
+  EXPECT_EQ(run.Main.Window().Controls().WildCard->currentText(), "*.*");
+  EXPECT_EQ(WidthOf(run, Column::CurrentName), 267);
+  EXPECT_EQ(WidthOf(run, Column::Artist), 67);
+  EXPECT_EQ(WidthOf(run, Column::Path), 400);
+  EXPECT_EQ(run.Main.State().SelectedOperation, 1);
+  EXPECT_EQ(run.Main.Window().size(), QSize(1024, 522));
+  EXPECT_FALSE(run.Main.Window().isMaximized());
+}
+
+TEST_F(MainWindowLoadTest, StoredValuesComeBack) {
+  Store(u"WildCards", u"*.ogg|*.txt");
+  Store(u"FileNameWidth", u"3000");
+  Store(u"PreviewWidth", u"100000");
+  Store(u"ArtistWidth", u"0");
+  Store(u"LastOperation", u"2");
+  Store(u"Width", u"18000");
+  Store(u"Height", u"9000");
+  Run& run = Load();
+  EXPECT_EQ(WildCards(run), QStringList({"*.ogg", "*.txt"}));
+  EXPECT_EQ(WidthOf(run, Column::CurrentName), 200);
+  EXPECT_EQ(WidthOf(run, Column::ProposedName), 267);
+  EXPECT_EQ(WidthOf(run, Column::Artist), 67);
+  EXPECT_EQ(run.Main.State().SelectedOperation, 2);
+  EXPECT_EQ(run.Main.Window().Controls().Help->toolTip(), "h2");
+  EXPECT_EQ(run.Main.Window().size(), QSize(1200, 600));
+}
+
+TEST_F(MainWindowLoadTest, AnOperationBeyondTheTreeGivesTheFirstOne) {
+  for (const char16_t* stored : {u"3", u"0", u"-1", u"many", u"99999"}) {
+    Store(u"LastOperation", stored);
+    EXPECT_EQ(Load().Main.State().SelectedOperation, 1);
+  }
+}
+
+TEST_F(MainWindowLoadTest, OnlyA1IsMaximized) {
+  Store(u"Maximized", u"1");
+  EXPECT_TRUE(Load().Main.Window().isMaximized());
+  Store(u"Maximized", u"True");
+  EXPECT_FALSE(Load().Main.Window().isMaximized());
+}
+
+TEST_F(MainWindowLoadTest, AMissingCatalogueIsToldAndBarsGo) {
+  std::remove((Folder.Path() + "program/Operations.ini").c_str());
+  Run& run = Load();
+  ASSERT_EQ(Prompts.Boxes.size(), 1U);
+  EXPECT_EQ(Prompts.Boxes[0].Message,
+            u"'" + Folder.TextPath() + u"program/Operations.ini' is missing");
+  EXPECT_EQ(Prompts.Boxes[0].Icon, BoxIcon::Stop);
+  EXPECT_FALSE(run.Main.Window().Controls().Go->isEnabled());
+}
+
+TEST_F(MainWindowLoadTest, ADamagedCatalogueIsReportedAndTheRestOfTheLoadGoesOn) {
+  Folder.Write("program/Operations.ini", std::string(Operations) + "Operation Name:none\r\n");
+  Store(u"Width", u"18000");
+  Store(u"LastOperation", u"2");
+  Run& run = Load();
+  EXPECT_EQ(Prompts.Boxes.size(), 1U);
+  EXPECT_EQ(run.Main.State().SelectedOperation, 2);
+  EXPECT_EQ(run.Main.Window().width(), 1200);
+  EXPECT_TRUE(run.Main.Window().Controls().Go->isEnabled());
+}
+
+TEST_F(MainWindowLoadTest, TheEndSavesEverything) {
+  Run& run = Load();
+  run.Main.State().CurrentPath = Folder.TextPath();
+  run.Main.SelectOperation(2);
+  run.Main.Window().Controls().FileList->header()->resizeSection(1, 100);
+  run.Main.Window().resize(1100, 600);
+  UnloadMainWindow(run.Main, run.Services);
+  EXPECT_EQ(Stored(u"StartPath"), Folder.TextPath());
+  EXPECT_EQ(Stored(u"LastOperation"), u"2");
+  EXPECT_EQ(Stored(u"FileNameWidth"), u"4000");
+  EXPECT_EQ(Stored(u"PreviewWidth"), u"1500");
+  EXPECT_EQ(Stored(u"Width"), u"16500");
+  EXPECT_EQ(Stored(u"Height"), u"9000");
+  EXPECT_EQ(Stored(u"Maximized"), u"0");
+  EXPECT_EQ(Stored(u"WildCards"), u"*.*|*.mp3");
+}
+
+TEST_F(MainWindowLoadTest, AMaximizedWindowKeepsItsStoredPlace) {
+  Store(u"Width", u"18000");
+  Store(u"Maximized", u"1");
+  Run& run = Load();
+  UnloadMainWindow(run.Main, run.Services);
+  EXPECT_EQ(Stored(u"Width"), u"18000");
+  EXPECT_EQ(Stored(u"Maximized"), u"1");
+}
+
+TEST_F(MainWindowLoadTest, AReportTellsWhatTheProgramIsDoing) {
+  Folder.Write("files/a.txt");
+  Run& run = Load();
+  run.Main.Gate().Start(
+      [&] { run.Main.Browser().ShowFolderBrowser(Folder.TextPath() + u"files/"); });
+  run.Services.Report.ReportError(u"", u"ReadID3v2", u"", RunError(ErrorNumber::DiskFull));
+  const QString log = QGuiApplication::clipboard()->text();
+  for (const char* line :
+       {"ListCount: 1\r\n", "ListColCount: 8\r\n", "RenOptIdx: (1) One\r\n",
+        "CurrentFile: a.txt\r\n", "CurrentPreview: xa.txt\r\n", "Screen Width: 1400\r\n",
+        "Screen Height: 1050\r\n", "Module: Unknown (ReadID3v2)"}) {
+    EXPECT_TRUE(log.contains(line)) << line << log.toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace vorlane
