@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 rooms=(platform metadata engine form preview filelist catalogue batch layout shell net cli ui)
-system_headers='sys/|unistd\.h|fcntl\.h|dirent\.h|signal\.h|netdb\.h|netinet/|arpa/|poll\.h|spawn\.h|windows\.h|winsock'
+system_headers='sys/|unistd\.h|fcntl\.h|dirent\.h|signal\.h|netdb\.h|netinet/|arpa/|ifaddrs\.h|net/if\.h|poll\.h|spawn\.h|windows\.h|winsock'
 bad=0
 
 complain() {

@@ -1,6 +1,8 @@
 #include "ui/qt_prompter.h"
 
+#include <QFontMetrics>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "ui/qt_text.h"
 
@@ -24,11 +26,38 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// A box that is higher than the screen would hide its own button: it shows the beginning of its
+// text, and the whole of it among its details.
+void FitScreen(QMessageBox& box) {
+  constexpr int LeastWidth = 400;  // of lines that are wrapped
+  constexpr int AroundTheText = 250;
+  const QString whole = box.text();
+  const QFontMetrics metrics(box.font());
+  const int room = box.screen()->availableGeometry().height() - AroundTheText;
+  const auto fits = [&](qsizetype length) {
+    const auto area = metrics.boundingRect(
+        QRect(0, 0, LeastWidth, 0), Qt::TextWordWrap | Qt::TextWrapAnywhere, whole.left(length));
+    return area.height() <= room;
+  };
+  if (fits(whole.size())) {
+    return;
+  }
+  qsizetype fitting = 0;
+  qsizetype tooLong = whole.size();
+  while (tooLong - fitting > 1) {
+    const qsizetype middle = fitting + (tooLong - fitting) / 2;
+    (fits(middle) ? fitting : tooLong) = middle;
+  }
+  box.setText(whole.left(fitting));
+  box.setDetailedText(whole);
+}
+
 int ShowBox(QWidget* parent, BoxIcon icon, TextView title, TextView text,
             QMessageBox::StandardButtons buttons) {
   QMessageBox box(IconOf(icon), ToQString(title), ToQString(text), buttons, parent);
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
+  FitScreen(box);
   return box.exec();
 }
 
