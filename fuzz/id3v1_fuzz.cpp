@@ -5,6 +5,7 @@
 #include "metadata/bit_rate.h"
 #include "metadata/id3v1.h"
 #include "platform/failure.h"
+#include "support/literal_tags.h"
 
 using namespace vorlane;
 
@@ -14,6 +15,7 @@ void Read(const std::string& bytes) {
   const std::string last =
       bytes.size() > ID3v1Length ? bytes.substr(bytes.size() - ID3v1Length) : bytes;
   const ID3Tag tag = ParseID3v1(last);
+  Require(tag == literal::ReadV1(bytes));
   Require(tag.Present == (last.size() == ID3v1Length && last.starts_with("TAG")));
   Require(tag.Title.size() <= 30 && tag.Comment.size() <= 29 && tag.Genre <= 255);
   if (tag.Present) {
@@ -35,7 +37,10 @@ void Write(FuzzInput input) {
   tag.Track = input.NextText();
   tag.Comment = input.NextText();
   std::string bytes;
-  if (Attempt([&] { bytes = BuildID3v1(tag); })) {
+  std::string file;
+  const bool isBuilt = Attempt([&] { bytes = BuildID3v1(tag); });
+  Require(isBuilt == Attempt([&] { literal::WriteV1(file, tag); }) && bytes == file);
+  if (isBuilt) {
     Require(bytes.size() == ID3v1Length && bytes.starts_with("TAG"));
     Require(ParseID3v1(bytes).Present);
   }

@@ -3,6 +3,7 @@
 # a static check counts as one, a test program as the number of its tests.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+export LSAN_OPTIONS="suppressions=$PWD/tests/leaks.supp:print_suppressions=0"
 passed=0
 failed=0
 
@@ -63,6 +64,7 @@ replay() { # replay PRESET
   local bin=build/$1/bin seeds target
   for target in "$bin"/*_replay; do
     case $(basename "$target") in
+    id3v2_write*) seeds=fuzz/corpus/id3v2_write ;;
     id3*) seeds=tests/data/id3 ;;
     exif*) seeds=tests/data/exif ;;
     catalogue*) seeds="fuzz/corpus/catalogue data" ;;

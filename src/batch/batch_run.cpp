@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "form/status_texts.h"
-#include "metadata/tag_reading.h"
 
 namespace vorlane {
 
@@ -47,8 +46,7 @@ void BatchRun::RunRows() {
     preview_.UpdateFilePreviewAll(true, 0);
   }
   renamedCount_ = 0;
-  tagV1_ = {};
-  tagV2_ = {};
+  tags_ = {};
   const std::int32_t rowsPerPage = form_.View.GetCountPerPage() + 1;
   const std::int32_t count = form_.Rows.Count();
   bool fallback = false;
@@ -126,18 +124,17 @@ void BatchRun::ProcessRow(std::int32_t row, std::int32_t rowsPerPage) {
   const Text path = form_.Rows.PathOf(row);
   RowOutcome outcome{.Row = row, .Name = form_.Rows.At(row).Name};
   if (HasMp3Extension(outcome.Name)) {
-    tagV1_ = ReadID3v1(services_.Files, services_.Report, path + outcome.Name);
-    tagV2_ = ReadID3v2(services_.Files, services_.Report, path + outcome.Name);
+    tags_ = ReadID3Tags(services_.Files, services_.Report, path + outcome.Name);
   }
   if (form_.DoAll) {
-    preview_.UpdateBoxValues(row, tagV1_, tagV2_, true, false);
+    preview_.UpdateBoxValues(row, tags_.V1, tags_.V2, true, false);
   }
   if (IsListReplaced()) {
     return;
   }
-  outcome.Steps = steps_.Run(row, tagV1_, tagV2_);
+  outcome.Steps = steps_.Run(row, tags_.V1, tags_.V2);
   if (form_.DoAll && !IsListReplaced()) {
-    preview_.UpdateBoxValues(row, tagV1_, tagV2_, true, false);
+    preview_.UpdateBoxValues(row, tags_.V1, tags_.V2, true, false);
   } else if (!form_.DoAll && form_.Rows.At(row).Proposed == FileInUseMarker()) {
     preview_.UpdateFilePreviewAll(false, row);  // it may be free by now
   }

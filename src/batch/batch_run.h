@@ -13,6 +13,7 @@
 #include "batch/undo_journal.h"
 #include "filelist/file_list.h"
 #include "form/form.h"
+#include "metadata/tag_reading.h"
 #include "preview/preview.h"
 
 namespace vorlane {
@@ -79,8 +80,7 @@ class BatchRun {
   std::uint64_t generation_ = 0;  // of the list that the run began with
   std::int32_t renamedCount_ = 0;
   // The records of the last MP3 row; not cleared from row to row.
-  ID3Tag tagV1_;
-  ID3Tag tagV2_;
+  ID3Tags tags_;
 };
 
 }  // namespace vorlane

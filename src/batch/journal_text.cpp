@@ -1,5 +1,7 @@
 #include "batch/journal_text.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "platform/code_page.h"
@@ -34,6 +36,20 @@ std::vector<std::string> SplitBytes(std::string_view text, std::string_view sepa
   }
   pieces.emplace_back(text.substr(start));
   return pieces;
+}
+
+// What stands for a character of a tag that would end its record, and for the start of a text that
+// would be taken for one of these.
+struct TagEscape {
+  char16_t Unit;
+  TextView Written;
+};
+constexpr std::array<TagEscape, 3> TagEscapes = {
+    {{u'\r', u"//000D"}, {u'\n', u"//000A"}, {u'/', u"//002F"}}};
+
+auto TagEscapeAt(TextView text) {
+  return std::find_if(TagEscapes.begin(), TagEscapes.end(),
+                      [text](const TagEscape& escape) { return text.starts_with(escape.Written); });
 }
 
 }  // namespace
@@ -93,16 +109,27 @@ Text TextOfJournalField(std::string_view field) {
 }
 
 std::string JournalTagFields(TextView tagText) {
-  Text text(tagText);
-  ReplaceAll(text, u"\r", u"//000D");
-  ReplaceAll(text, u"\n", u"//000A");
+  Text text;
+  for (std::size_t i = 0; i < tagText.size(); ++i) {
+    const char16_t unit = tagText[i];
+    const auto escape = std::find_if(TagEscapes.begin(), TagEscapes.end(),
+                                     [unit](const TagEscape& each) { return each.Unit == unit; });
+    const bool isNeeded = escape != TagEscapes.end() &&
+                          (unit != u'/' || TagEscapeAt(tagText.substr(i)) != TagEscapes.end());
+    text += isNeeded ? escape->Written : tagText.substr(i, 1);
+  }
   return CodePageBytes(text);
 }
 
 Text TextOfJournalTagFields(std::string_view fields) {
-  Text text = TextFromCodePage(fields);
-  ReplaceAll(text, u"//000D", u"\r");
-  ReplaceAll(text, u"//000A", u"\n");
+  const Text written = TextFromCodePage(fields);
+  Text text;
+  for (TextView rest = written; !rest.empty();) {
+    const auto escape = TagEscapeAt(rest);
+    const bool isEscape = escape != TagEscapes.end();
+    text += isEscape ? escape->Unit : rest.front();
+    rest.remove_prefix(isEscape ? escape->Written.size() : 1);
+  }
   return text;
 }
 

@@ -32,7 +32,8 @@ std::string JournalFolderField(TextView folder, PathStyle style);
 Text TextOfJournalField(std::string_view field);
 
 // The nine fields of a tag as one piece of a record. They stand as they are but for line breaks,
-// which a tag's year may hold and which would end the record.
+// which a tag's year or track may hold and which would end the record: these are written as in a
+// name. A text that only looks like such an escape has the first "/" of it written that way.
 std::string JournalTagFields(TextView tagText);
 Text TextOfJournalTagFields(std::string_view fields);
 

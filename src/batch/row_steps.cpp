@@ -61,15 +61,11 @@ void RowSteps::RunStep(const RowInHand& in, const Text& step, StepResults& resul
       in.IsMp3 && (Contains(step, u"<RemoveID3v1>") || Contains(step, u"<WriteID3v1>") ||
                    Contains(step, u"<WriteID3v2>"));
   if (isTagStep) {
-    if (Contains(step, u"<RemoveID3v1>")) {
-      RemoveTag(in);
-    } else if (Contains(step, u"<WriteID3v1>")) {
-      WriteTagV1(in, step);
-    } else {
-      WriteTagV2(in, step);
-    }
-    results.StepTagPresent = true;
-    results.Changed = true;
+    const bool done = Contains(step, u"<RemoveID3v1>")  ? RemoveTag(in)
+                      : Contains(step, u"<WriteID3v1>") ? WriteTagV1(in, step)
+                                                        : WriteTagV2(in, step);
+    (done ? results.StepTagPresent : results.TagRefused) = true;
+    results.Changed = results.Changed || done;
   } else if (Contains(step, u"<CREATEFOLDER>")) {
     MakeFolder(in, step, results);
   } else if (Contains(step, u"<MOVE>")) {
@@ -77,32 +73,40 @@ void RowSteps::RunStep(const RowInHand& in, const Text& step, StepResults& resul
   }
 }
 
-void RowSteps::RemoveTag(const RowInHand& in) {
-  OpenTagLine(in, in.TagV1, 1);
+bool RowSteps::RemoveTag(const RowInHand& in) {
+  if (!OpenTagLine(in, in.TagV1, 1)) {
+    return false;
+  }
   RemoveID3v1(services_.Files, services_.Report, in.Path + in.Name);
   form_.SetTagPresence(in.Row, Column::ID3v1, false);
+  return true;
 }
 
-void RowSteps::WriteTagV1(const RowInHand& in, const Text& step) {
+bool RowSteps::WriteTagV1(const RowInHand& in, const Text& step) {
   ID3Tag tag = in.TagV1;
   ID3Tag tagV2 = in.TagV2;
   const auto fields = TagFields(in, step, tag, tagV2);
   TakeFields(tag, fields);
   tag.Track = BeforeFirstBracket(Field(fields, 4));
-  OpenTagLine(in, in.TagV1, 1);
+  if (!OpenTagLine(in, in.TagV1, 1)) {
+    return false;
+  }
   WriteID3v1(services_.Files, services_.Report, in.Path + in.Name, tag);
   form_.SetArtistAndTitle(in.Row, tag);
   form_.SetTagPresence(in.Row, Column::ID3v1, true);
+  return true;
 }
 
-void RowSteps::WriteTagV2(const RowInHand& in, const Text& step) {
+bool RowSteps::WriteTagV2(const RowInHand& in, const Text& step) {
   ID3Tag tagV1 = in.TagV1;
   ID3Tag tag = in.TagV2;
   const auto fields = TagFields(in, step, tagV1, tag);
   TakeFields(tag, fields);
   tag.Track = Field(fields, 4);
   const bool removeV1 = Field(fields, 5).starts_with(u"1");
-  OpenTagLine(in, in.TagV2, 2);
+  if (!OpenTagLine(in, in.TagV2, 2)) {
+    return false;
+  }
   WriteID3v2({services_.Files, services_.Report, services_.Prompts, form_}, in.Path + in.Name, tag,
              removeV1);
   form_.SetArtistAndTitle(in.Row, tag);
@@ -110,6 +114,7 @@ void RowSteps::WriteTagV2(const RowInHand& in, const Text& step) {
   if (removeV1) {
     form_.SetTagPresence(in.Row, Column::ID3v1, false);
   }
+  return true;
 }
 
 void RowSteps::MakeFolder(const RowInHand& in, const Text& step, StepResults& results) {
@@ -180,11 +185,11 @@ Text RowSteps::Evaluate(const RowInHand& in, const Text& step, const ID3Tag& tag
                          context);
 }
 
-void RowSteps::OpenTagLine(const RowInHand& in, const ID3Tag& asRead, int version) {
-  journal_.UpdateUndoFile({.Kind = RecordKind::OpenTag,
-                           .Folder = in.Path,
-                           .OldName = in.Name,
-                           .TagText = TagToString(asRead, version)});
+bool RowSteps::OpenTagLine(const RowInHand& in, const ID3Tag& asRead, int version) {
+  return journal_.UpdateUndoFile({.Kind = RecordKind::OpenTag,
+                                  .Folder = in.Path,
+                                  .OldName = in.Name,
+                                  .TagText = TagToString(asRead, version)});
 }
 
 }  // namespace vorlane

@@ -15,6 +15,7 @@ namespace vorlane {
 // What the steps of one row did.
 struct StepResults {
   bool StepTagPresent = false;  // a tag step has left an unfinished journal line
+  bool TagRefused = false;      // one wasn't carried out, as the old tag couldn't be journalled
   bool Changed = false;         // a folder was made, the entry moved or a tag step carried out
   bool MoveRefused = false;
   Text MovedTo{};  // the folder in which the entry is now, if it was moved
@@ -26,7 +27,10 @@ class RowSteps {
       : form_(form), services_(services), facts_(facts), journal_(journal) {}
 
   // Carries out the selected operation's steps on that row, in their order. The tags are the
-  // records as read from the row's file; they go into the journal unchanged. Throws RunError for a
+  // records as read from the row's file; they go into the journal unchanged, and before the file is
+  // touched: a tag step whose record can't be written isn't carried out, since nothing else could
+  // bring the old tag back. Names and folders can be had back by hand, so these steps are recorded
+  // when they are done, and a record that can't be written is merely lost. Throws RunError for a
   // tag step with too few fields (9) or without its closing tag (5), and for a code of over 32,767
   // characters (6).
   StepResults Run(std::int32_t row, const ID3Tag& tagV1, const ID3Tag& tagV2);
@@ -42,9 +46,10 @@ class RowSteps {
   };
 
   void RunStep(const RowInHand& in, const Text& step, StepResults& results);
-  void RemoveTag(const RowInHand& in);
-  void WriteTagV1(const RowInHand& in, const Text& step);
-  void WriteTagV2(const RowInHand& in, const Text& step);
+  // Each true if it was carried out.
+  bool RemoveTag(const RowInHand& in);
+  bool WriteTagV1(const RowInHand& in, const Text& step);
+  bool WriteTagV2(const RowInHand& in, const Text& step);
   void MakeFolder(const RowInHand& in, const Text& step, StepResults& results);
   void Move(const RowInHand& in, const Text& step, StepResults& results);
   Text FolderOf(const RowInHand& in, const Text& step);
@@ -52,7 +57,7 @@ class RowSteps {
                 bool tagStep);
   std::vector<Text> TagFields(const RowInHand& in, const Text& step, ID3Tag& copyV1,
                               ID3Tag& copyV2);
-  void OpenTagLine(const RowInHand& in, const ID3Tag& asRead, int version);
+  bool OpenTagLine(const RowInHand& in, const ID3Tag& asRead, int version);
 
   Form& form_;
   Services& services_;

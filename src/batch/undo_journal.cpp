@@ -37,12 +37,9 @@ void UndoJournal::ContinueUndoFile(TextView folder) {
   }
 }
 
-void UndoJournal::UpdateUndoFile(const JournalRecord& record) {
-  if (path_.empty()) {
-    return;
-  }
-  ReportingFailures(report_, u"", u"UpdateUndoFile", u"",
-                    [&] { files_.AppendToFile(path_, BytesOf(record)); });
+bool UndoJournal::UpdateUndoFile(const JournalRecord& record) {
+  return IsOpen() && ReportingFailures(report_, u"", u"UpdateUndoFile", u"",
+                                       [&] { files_.AppendToFile(path_, BytesOf(record)); });
 }
 
 std::string UndoJournal::BytesOf(const JournalRecord& record) const {

@@ -52,8 +52,9 @@ class UndoJournal {
 
   bool IsOpen() const { return !path_.empty(); }
 
-  // Appends a record. A failure is reported and the record is lost.
-  void UpdateUndoFile(const JournalRecord& record);
+  // Appends a record. True if it is on the disk. A failure is reported and the record is lost;
+  // without a journal there is nothing to report.
+  bool UpdateUndoFile(const JournalRecord& record);
 
  private:
   std::string BytesOf(const JournalRecord& record) const;

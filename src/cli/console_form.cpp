@@ -40,6 +40,7 @@ void ConsoleReport::ReportError(TextView /*module*/, TextView procedure, TextVie
 void ConsolePrompter::Show(BoxIcon icon, TextView title, TextView text) {
   Text line(title);
   line.append(line.empty() ? u"" : u": ").append(text);
+  ReplaceAll(line, u"\r\n\r\n", u"\r\n");
   ReplaceAll(line, u"\r\n", u" ");
   ReplaceAll(line, u"\n", u" ");
   if (icon == BoxIcon::Exclamation || icon == BoxIcon::Stop) {

@@ -45,8 +45,7 @@ struct Question {
   bool TagSteps = false;
   bool FolderSteps = false;
   PathStyle Paths = HostPathStyle;
-  ID3Tag TagV1{};
-  ID3Tag TagV2{};
+  ID3Tags Tags{};
 };
 
 Text Answer(Question& question, EntryFacts& facts, MessageLoop& loop) {
@@ -54,8 +53,8 @@ Text Answer(Question& question, EntryFacts& facts, MessageLoop& loop) {
   return ProcessFileName({.Code = question.Code,
                           .FileName = question.Name,
                           .Path = question.Folder,
-                          .TagV1 = question.TagV1,
-                          .TagV2 = question.TagV2,
+                          .TagV1 = question.Tags.V1,
+                          .TagV2 = question.Tags.V2,
                           .AutoNumber = question.Number,
                           .AllowTagSteps = question.TagSteps,
                           .AllowFolderSteps = question.FolderSteps,
@@ -116,8 +115,7 @@ ExitStatus EvaluateOne(const Arguments& arguments) {
   }
   if (HasMp3Extension(question.Name)) {
     const Text path = question.Folder + question.Name;
-    question.TagV1 = ReadID3v1(session.Files, session.Report, path);
-    question.TagV2 = ReadID3v2(session.Files, session.Report, path);
+    question.Tags = ReadID3Tags(session.Files, session.Report, path);
   }
   const Text result = Answer(question, session.Facts, session.Loop);
   if (arguments.AsJson) {
@@ -157,10 +155,10 @@ Question QuestionOf(const Json& line) {
     }
   }
   if (const Json* tag = ObjectField(line, "tagV1")) {
-    question.TagV1 = TagOfJson(*tag);
+    question.Tags.V1 = TagOfJson(*tag);
   }
   if (const Json* tag = ObjectField(line, "tagV2")) {
-    question.TagV2 = TagOfJson(*tag);
+    question.Tags.V2 = TagOfJson(*tag);
   }
   return question;
 }

@@ -1,14 +1,12 @@
 #include "cli/file_tags.h"
 
 #include "cli/tag_json.h"
-#include "metadata/tag_reading.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
 
 FileTags ReadFileTags(FileSystem& files, FailureReport& report, TextView path) {
-  return {ReadID3v1(files, report, path), ReadID3v2(files, report, path),
-          GetKbit(files, report, path)};
+  return {ReadID3Tags(files, report, path), GetKbit(files, report, path)};
 }
 
 Json FileTagsToJson(const std::string& file, const FileTags& tags) {

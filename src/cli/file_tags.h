@@ -4,15 +4,13 @@
 #include <string>
 
 #include "cli/json_text.h"
-#include "metadata/id3_tag.h"
+#include "metadata/tag_reading.h"
 #include "platform/failure.h"
 #include "platform/file_system.h"
 
 namespace vorlane {
 
-struct FileTags {
-  ID3Tag V1;
-  ID3Tag V2;
+struct FileTags : ID3Tags {
   std::int16_t Kbit = 0;
 };
 

@@ -14,6 +14,9 @@ Text RefusalOf(const RowOutcome& outcome, bool renamed) {
   if (steps.MoveRefused) {
     return u"not moved: no such folder, or the name is taken there";
   }
+  if (steps.TagRefused) {
+    return u"tag unchanged: the undo file can't record the old one";
+  }
   // A marker bars the new name only; the steps have done their work.
   if (!steps.Changed && outcome.Proposed == ReadOnlyMarker()) {
     return u"read only";

@@ -189,7 +189,7 @@ void FileList::lstFileListItemClick() {
           }
           return;
         }
-        RowTags tags;
+        ID3Tags tags;
         if (HasMp3Extension(form_.Rows.At(row).Name)) {
           tags = ReadRowTags(form_, services_, row);
         }

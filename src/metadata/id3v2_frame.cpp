@@ -20,9 +20,10 @@ std::int32_t DeclaredTagSize(std::string_view header) {
   return BitsToLong(BytesToBits(bytes, 6));
 }
 
-std::optional<std::size_t> FindFrame(std::string_view tag, std::string_view id) {
-  const std::string needle = std::string(id) + std::string(3, '\0');
-  const auto place = tag.find(needle, TagHeaderLength);
+std::optional<std::size_t> FindFrame(std::string_view tag, std::string_view id, std::size_t from) {
+  std::string needle(id);
+  needle.append(FrameSizeOffset - id.size(), '\0');
+  const auto place = tag.find(needle, from);
   if (place == std::string_view::npos) {
     return std::nullopt;
   }

@@ -27,8 +27,9 @@ bool HasID3v2Header(std::string_view fileStart);
 // The size in the header, 0 to 2^28 - 1. Bytes of the header that are missing count as NULs.
 std::int32_t DeclaredTagSize(std::string_view header);
 
-// The place (counted from 0) of the first frame with these four letters, behind the header.
-std::optional<std::size_t> FindFrame(std::string_view tag, std::string_view id);
+// The place (counted from 0) of the first frame with these four letters at `from` or behind it.
+std::optional<std::size_t> FindFrame(std::string_view tag, std::string_view id,
+                                     std::size_t from = TagHeaderLength);
 
 // The length of a text as its size byte says: the byte at `place`, less 1 for the encoding, so -1
 // to 254. Throws RunError 5 if the tag ends before that place.

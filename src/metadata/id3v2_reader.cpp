@@ -15,34 +15,63 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xFF\xFE";
 
-// No frame that begins in the file reaches further behind its end than this.
-constexpr std::size_t ReachBehindEnd = 1024;
-
 // Language code and an empty description, in front of the text of a comment.
-constexpr int CommentPrefixLength = 4;
+constexpr std::size_t CommentPrefixLength = 4;
+
+// What is looked at: bytes of the file, and NULs where it ends too early. These are never stored,
+// since a header may promise 256 MiB of them.
+class LookedAt {
+ public:
+  LookedAt(std::string_view fileStart, std::size_t length)
+      : bytes_(fileStart.substr(0, length)), length_(length) {}
+
+  std::string_view Bytes() const { return bytes_; }
+
+  // FindFrame, in the NULs as well: the last of the frame's seven bytes may be among them.
+  std::optional<std::size_t> Find(std::string_view id) const {
+    const auto place = FindFrame(bytes_, id);
+    if (place || bytes_.size() <= TagHeaderLength) {
+      return place;
+    }
+    const std::size_t start = std::max(TagHeaderLength, bytes_.size() + 1 - FrameSizeOffset);
+    const auto placeInEnd = FindFrame(Cut(start, 2 * FrameSizeOffset), id, 0);
+    return placeInEnd ? std::optional(start + *placeInEnd) : std::nullopt;
+  }
+
+  // As many bytes, or fewer at the end.
+  std::string Cut(std::size_t place, std::size_t length) const {
+    if (place >= length_) {
+      return {};
+    }
+    std::string cut(bytes_.substr(std::min(place, bytes_.size()), length));
+    cut.resize(std::min(length, length_ - place));
+    return cut;
+  }
+
+ private:
+  std::string_view bytes_;
+  std::size_t length_;
+};
 
 struct Frame {
-  bool Found = false;
-  std::size_t TextPlace = 0;
+  std::optional<std::size_t> Place;
   int TextLength = 0;
 };
 
-Frame LocateFrame(std::string_view tag, std::string_view id) {
-  const auto place = FindFrame(tag, id);
-  if (place) {
-    return {true, *place + FrameTextOffset, TextLengthAt(tag, *place + FrameSizeOffset)};
-  }
+Frame LocateFrame(const LookedAt& tag, std::string_view id) {
+  const auto place = tag.Find(id);
   // The length of a frame that isn't there is that of one at place -1: it comes from the header.
-  return {false, 0, TextLengthAt(tag, FrameSizeOffset - 1)};
+  const std::size_t sizePlace = place ? *place + FrameSizeOffset : FrameSizeOffset - 1;
+  return {place, TextLengthAt(tag.Cut(sizePlace, 1), 0)};
 }
 
-std::string CutText(std::string_view tag, const Frame& frame, int skipped = 0) {
-  const std::size_t place = frame.TextPlace + static_cast<std::size_t>(skipped);
-  const int length = frame.TextLength - skipped;
-  if (!frame.Found || length < 1 || place >= tag.size()) {
+std::string CutText(const LookedAt& tag, const Frame& frame, std::size_t skipped = 0) {
+  const int length = frame.TextLength - static_cast<int>(skipped);
+  if (!frame.Place || length < 1) {
     return {};
   }
-  return std::string(TrimSpaces(tag.substr(place, static_cast<std::size_t>(length))));
+  return std::string(TrimSpaces(
+      tag.Cut(*frame.Place + FrameTextOffset + skipped, static_cast<std::size_t>(length))));
 }
 
 std::string CutAtFirstNul(const std::string& field) {
@@ -95,7 +124,7 @@ std::size_t ID3v2ReadLength(std::string_view fileStart) {
   if (!HasID3v2Header(fileStart)) {
     return 0;
   }
-  return static_cast<std::size_t>(std::max(DeclaredTagSize(fileStart), MinimumTagSize)) + 1;
+  return std::max(static_cast<std::size_t>(DeclaredTagSize(fileStart)) + 1, MinimumID3v2ReadLength);
 }
 
 ID3Tag ParseID3v2(std::string_view fileStart) {
@@ -103,21 +132,19 @@ ID3Tag ParseID3v2(std::string_view fileStart) {
   if (length == 0) {
     return {};
   }
-  const std::string tag =
-      PaddedWithNuls(fileStart, std::min(length, fileStart.size() + ReachBehindEnd));
-
+  const LookedAt tag(fileStart, length);
   const Frame artist = LocateFrame(tag, "TPE1");
   const Frame title = LocateFrame(tag, "TIT2");
   const Frame album = LocateFrame(tag, "TALB");
   const Frame track = LocateFrame(tag, "TRCK");
   const Frame year = LocateFrame(tag, "TYER");
   const Frame comment = LocateFrame(tag, "COMM");
-  Frame genre = LocateFrame(tag, "TCON");
-  genre.TextLength = comment.TextLength;  // not its own: files are read this way everywhere
+  // With the length of the comment, not its own: files are read this way everywhere.
+  const Frame genre{tag.Find("TCON"), comment.TextLength};
 
   const auto field = [](std::string_view bytes) { return WithoutAll(bytes, ByteOrderMark); };
   ID3Tag result;
-  result.Unicode = tag.find(ByteOrderMark) != std::string::npos;
+  result.Unicode = tag.Bytes().find(ByteOrderMark) != std::string_view::npos;
   result.Genre = GenreNumber(CutText(tag, genre));
   result.Artist = DecodeText(field(CutText(tag, artist)));
   result.Title = DecodeText(field(CutText(tag, title)));

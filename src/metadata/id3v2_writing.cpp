@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <new>
+#include <utility>
 
-#include "metadata/byte_text.h"
 #include "metadata/id3v1.h"
 #include "metadata/id3v2_frame.h"
 #include "metadata/id3v2_writer.h"
@@ -27,18 +27,19 @@ std::string ReadOldTag(OpenFile& file, std::int32_t declaredSize) {
   if (size > fileSize + LargestExcess) {
     throw RunError(ErrorNumber::PastEndOfFile);
   }
-  return PaddedWithNuls(ReadExactly(file, 0, std::min(size, fileSize)),
-                        static_cast<std::size_t>(size));
+  std::string tag = ReadExactly(file, 0, std::min(size, fileSize));
+  tag.resize(static_cast<std::size_t>(size));
+  return tag;
 }
 
 // The old tag gives way to one of the same size, and the file loses its last `dropped` bytes.
-InPlaceChange ExchangeStart(OpenFile& file, const std::string& oldTag, const std::string& newTag,
+InPlaceChange ExchangeStart(OpenFile& file, std::string oldTag, std::string newTag,
                             std::uint64_t dropped) {
   InPlaceChange change;
   change.OldSize = file.Size();
   if (newTag != oldTag) {
-    change.NewBytes = newTag;
-    change.OldBytes = oldTag;
+    change.NewBytes = std::move(newTag);
+    change.OldBytes = std::move(oldTag);
   }
   change.NewSize = std::max<std::uint64_t>(change.OldSize, change.NewBytes.size()) - dropped;
   if (change.NewBytes.size() > change.NewSize) {
@@ -52,20 +53,19 @@ InPlaceChange ExchangeStart(OpenFile& file, const std::string& oldTag, const std
 
 // The first `oldLength` bytes give way to a longer tag, and the file loses its last `dropped`
 // bytes: what is between them moves up. Throws RunError 5 if they overlap.
-InPlaceChange MoveRest(OpenFile& file, const std::string& newTag, std::uint64_t oldLength,
+InPlaceChange MoveRest(OpenFile& file, std::string newTag, std::uint64_t oldLength,
                        std::uint64_t dropped) {
   InPlaceChange change;
   change.OldSize = file.Size();
   if (dropped > 0 && oldLength + dropped > change.OldSize) {
     throw RunError(ErrorNumber::InvalidArgument);
   }
+  change.NewBytes = std::move(newTag);
   change.OldBytes = ReadExactly(file, 0, change.OldSize);
-  const std::uint64_t from = std::min(oldLength, change.OldSize);
-  change.NewBytes.reserve(newTag.size() + change.OldBytes.size());
-  change.NewBytes = newTag;
-  change.NewBytes.append(change.OldBytes, static_cast<std::size_t>(from),
-                         static_cast<std::size_t>(change.OldSize - dropped - from));
-  change.NewSize = change.NewBytes.size();
+  change.MovedFrom = static_cast<std::size_t>(std::min(oldLength, change.OldSize));
+  change.MovedLength =
+      change.OldBytes.size() - static_cast<std::size_t>(dropped) - change.MovedFrom;
+  change.NewSize = change.NewBytes.size() + change.MovedLength;
   return change;
 }
 
@@ -98,8 +98,8 @@ class ID3v2Change {
   }
 
   void Update(OpenFile& file, std::int32_t declaredSize) {
-    const std::string oldTag = ReadOldTag(file, declaredSize);
-    const std::string newTag = UpdatedID3v2(oldTag, tag_);
+    std::string oldTag = ReadOldTag(file, declaredSize);
+    std::string newTag = UpdatedID3v2(oldTag, tag_);
     const bool grown = newTag.size() > oldTag.size();
     const std::uint64_t dropped = BytesToDrop();
     if (dropped > 0) {
@@ -109,8 +109,9 @@ class ID3v2Change {
     } else {
       Show(TextNumber::V2Updating, 50);
     }
-    const InPlaceChange change = grown ? MoveRest(file, newTag, oldTag.size(), dropped)
-                                       : ExchangeStart(file, oldTag, newTag, dropped);
+    const InPlaceChange change =
+        grown ? MoveRest(file, std::move(newTag), oldTag.size(), dropped)
+              : ExchangeStart(file, std::move(oldTag), std::move(newTag), dropped);
     if (dropped > 0) {
       Show(TextNumber::V2WithoutV1Rewriting, 66);
     }
@@ -118,10 +119,10 @@ class ID3v2Change {
   }
 
   void Add(OpenFile& file) {
-    const std::string newTag = NewID3v2(tag_);
+    std::string newTag = NewID3v2(tag_);
     const std::uint64_t dropped = BytesToDrop();
     Show(dropped > 0 ? TextNumber::NoV2ButV1Loading : TextNumber::NoV2Loading, 33);
-    const InPlaceChange change = MoveRest(file, newTag, 0, dropped);
+    const InPlaceChange change = MoveRest(file, std::move(newTag), 0, dropped);
     Show(dropped > 0 ? TextNumber::NoV2WithoutV1Rewriting : TextNumber::NoV2Rewriting, 66);
     ChangeInPlace(file, change);
   }
@@ -153,7 +154,7 @@ void WriteID3v2(const ID3v2Services& services, TextView path, const ID3Tag& tag,
   } catch (const RunError& error) {
     Text message = error.Description();
     if (error.Number() == static_cast<int>(ErrorNumber::InvalidArgument)) {
-      message.append(u"\n\n").append(InterfaceText(TextNumber::TagProbablyInvalid));
+      message.append(u"\r\n\r\n").append(InterfaceText(TextNumber::TagProbablyInvalid));
     }
     const Text title =
         Text(InterfaceText(TextNumber::ErrorNumber)).append(DecimalText(error.Number()));

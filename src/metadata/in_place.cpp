@@ -9,22 +9,37 @@ namespace vorlane {
 
 namespace {
 
+// Bytes that stand together in the new file.
+struct Piece {
+  std::uint64_t Position;
+  std::string_view Bytes;
+
+  std::uint64_t End() const { return Position + Bytes.size(); }
+};
+
 class Changer {
  public:
   Changer(OpenFile& file, const InPlaceChange& change)
-      : file_(file), change_(change), lowest_(change.Position + change.NewBytes.size()) {}
+      : file_(file),
+        change_(change),
+        new_{change.Position, change.NewBytes},
+        moved_{new_.End(),
+               std::string_view(change.OldBytes).substr(change.MovedFrom, change.MovedLength)},
+        lowest_(moved_.End()) {}
+
+  bool IsNothing() const {
+    return moved_.End() == change_.Position && change_.NewSize == change_.OldSize;
+  }
 
   void Change() {
-    const std::uint64_t end = lowest_;
-    const std::uint64_t oldEnd = std::min(end, change_.OldSize);
-    if (end > oldEnd) {
-      Write(oldEnd, end);
-    }
-    for (std::uint64_t to = oldEnd; to > change_.Position;) {
-      const std::uint64_t from = to - std::min<std::uint64_t>(to - change_.Position, InPlaceBlock);
-      Write(from, to);
+    Write(moved_, std::max(moved_.Position, change_.OldSize), moved_.End());
+    Write(new_, std::max(new_.Position, change_.OldSize), new_.End());
+    for (std::uint64_t to = std::min(moved_.End(), change_.OldSize); to > moved_.Position;) {
+      const std::uint64_t from = to - std::min<std::uint64_t>(to - moved_.Position, InPlaceBlock);
+      Write(moved_, from, to);
       to = from;
     }
+    Write(new_, new_.Position, std::min(new_.End(), change_.OldSize));
     if (change_.NewSize < change_.OldSize) {
       file_.SetSize(change_.NewSize);
     }
@@ -42,15 +57,18 @@ class Changer {
   }
 
  private:
-  void Write(std::uint64_t from, std::uint64_t to) {
-    lowest_ = from;
-    const std::string_view bytes = change_.NewBytes;
-    file_.WriteAt(from, bytes.substr(static_cast<std::size_t>(from - change_.Position),
-                                     static_cast<std::size_t>(to - from)));
+  void Write(const Piece& piece, std::uint64_t from, std::uint64_t to) {
+    if (from < to) {
+      lowest_ = from;
+      file_.WriteAt(from, piece.Bytes.substr(static_cast<std::size_t>(from - piece.Position),
+                                             static_cast<std::size_t>(to - from)));
+    }
   }
 
   OpenFile& file_;
   const InPlaceChange& change_;
+  const Piece new_;
+  const Piece moved_;
   std::uint64_t lowest_;  // where the last write that was tried begins
 };
 
@@ -58,12 +76,20 @@ class Changer {
 
 void ChangeInPlace(OpenFile& file, const InPlaceChange& change) {
   Changer changer(file, change);
+  if (changer.IsNothing()) {
+    return;
+  }
+  // Somebody may have changed the file since it was read.
+  if (file.Size() != change.OldSize) {
+    throw RunError(ErrorNumber::PathAccess);
+  }
   try {
     changer.Change();
   } catch (const RunError&) {
     Attempt([&] { changer.PutBack(); });
     throw;
   }
+  file.Close();
 }
 
 std::string ReadExactly(OpenFile& file, std::uint64_t position, std::uint64_t length) {

@@ -2,6 +2,10 @@
 
 namespace vorlane {
 
+std::unique_ptr<OpenFile> FileSystem::OpenPlainFile(TextView path) {
+  return PlainFileExists(*this, path) ? Open(path, OpenMode::Read) : nullptr;
+}
+
 bool PlainFileExists(FileSystem& files, TextView path) {
   const auto status = files.PresenceOf(path);
   return status.Kind == EntryKind::File && !status.Hidden;

@@ -41,12 +41,6 @@ struct EntryStatus {
   std::uint64_t Size = 0;  // bytes; 0 for anything but a regular file
 };
 
-// Whether an entry may be renamed now.
-struct EntryUse {
-  EntryStatus Status;
-  bool InUse = false;  // only looked for in a regular file that is neither hidden nor read-only
-};
-
 // Tells whether two names are the same entry.
 struct FileIdentity {
   std::uint64_t Device = 0;
@@ -84,11 +78,12 @@ enum class OpenMode {
   ReadWrite,  // an existing file, changed in place: same inode
 };
 
-// An open regular file. Positions count from 0. Closed by its destructor.
+// An open regular file. Positions count from 0. Closed by its destructor, if nobody did it before.
 class OpenFile {
  public:
   virtual ~OpenFile() = default;
 
+  // Now; of a file that is open for reading alone, when it was opened.
   virtual std::uint64_t Size() = 0;
 
   // Up to `length` bytes from `position`; fewer at the end of the file. Throws RunError.
@@ -99,6 +94,17 @@ class OpenFile {
 
   // Cuts the file, or lengthens it with NULs. Throws RunError.
   virtual void SetSize(std::uint64_t size) = 0;
+
+  // For whoever has written: throws RunError if the system tells only now that it couldn't store
+  // what it had taken. Nothing else can be done with the file after this.
+  virtual void Close() = 0;
+};
+
+// Whether an entry may be renamed now.
+struct EntryUse {
+  EntryStatus Status;
+  bool InUse = false;  // only looked for in a regular file that is neither hidden nor read-only
+  std::unique_ptr<OpenFile> File{};  // open for reading, where that was asked for
 };
 
 class FileSystem {
@@ -136,11 +142,20 @@ class FileSystem {
   // row of a list of files, and the file has to be opened but once to answer both.
   virtual EntryUse UseOf(TextView path) = 0;
 
+  // The same, and the file in which InUse was looked for is left open if nobody holds it, for
+  // whoever reads it next. It may be null all the same.
+  virtual EntryUse UseAndOpen(TextView path) { return UseOf(path); }
+
   // The whole file. Throws RunError if it can't be opened or read.
   virtual std::string ReadFileBytes(TextView path) = 0;
 
-  // Throws RunError if it isn't a regular file or can't be opened; never creates one.
+  // Throws RunError if it isn't a regular file, can't be opened or is read-only and to be written;
+  // never creates one.
   virtual std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) = 0;
+
+  // For reading, if PlainFileExists; otherwise null. Throws RunError if it can't be opened. The
+  // same as the two questions one after the other, for whoever opens row after row.
+  virtual std::unique_ptr<OpenFile> OpenPlainFile(TextView path);
 
   // One step, atomic, for files and folders; a link is renamed as a link. An existing target of any
   // kind is never replaced. Both paths on one volume, otherwise Refused.
@@ -155,8 +170,8 @@ class FileSystem {
   // Makes a new file with these bytes. Throws RunError 58 if the name is taken by anything.
   virtual void CreateFile(TextView path, std::string_view bytes) = 0;
 
-  // Adds bytes to the end of an existing file, all or none: what a failed write left is cut off
-  // again. Doesn't follow a link. Opens and closes the file. Throws RunError.
+  // Adds bytes to the end of an existing file that isn't read-only, all or none: what a failed
+  // write left is cut off again. Doesn't follow a link. Opens and closes the file. Throws RunError.
   virtual void AppendToFile(TextView path, std::string_view bytes) = 0;
 
   // Lets everybody who may read the file run it as a program. True if that is so now, as it always

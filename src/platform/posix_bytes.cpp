@@ -6,12 +6,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <exception>
+#include <limits>
 #include <tuple>
 
 #include "platform/failure.h"
 #include "platform/file_name_bytes.h"
 #include "platform/posix_file_system.h"
 #include "platform/posix_handle.h"
+#include "platform/posix_status.h"
 
 namespace vorlane {
 
@@ -69,24 +71,20 @@ std::string ReadBytes(int descriptor, std::uint64_t position, std::uint64_t leng
 
 // 0 or errno.
 int WriteBytes(int descriptor, std::uint64_t position, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t count = Uninterrupted([&] {
-      return pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(position));
-    });
-    if (count < 0) {
-      return errno;
-    }
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-    position += static_cast<std::uint64_t>(count);
-  }
-  return 0;
+  return WriteAll(position, bytes, [descriptor](std::string_view rest, std::uint64_t place) {
+    return pwrite(descriptor, rest.data(), rest.size(), static_cast<off_t>(place));
+  });
 }
 
 class PosixOpenFile final : public OpenFile {
  public:
-  explicit PosixOpenFile(FileHandle handle) : handle_(std::move(handle)) {}
+  PosixOpenFile(FileHandle handle, OpenMode mode, std::uint64_t size)
+      : handle_(std::move(handle)), mode_(mode), sizeAtFirst_(size) {}
 
   std::uint64_t Size() override {
+    if (mode_ == OpenMode::Read) {
+      return sizeAtFirst_;
+    }
     struct stat status {};
     if (fstat(handle_.Descriptor(), &status) != 0) {
       ThrowErrno(errno);
@@ -95,13 +93,16 @@ class PosixOpenFile final : public OpenFile {
   }
 
   std::string ReadAt(std::uint64_t position, std::size_t length) override {
-    // The size is asked first so that a wild length costs no memory.
-    const std::uint64_t size = Size();
-    if (position >= size) {
-      return {};
+    constexpr std::size_t tamed = std::size_t{1} << 16;
+    constexpr std::uint64_t endOfAny = std::numeric_limits<off_t>::max();
+    if (length > tamed) {
+      // The size is asked first so that a wild length costs no memory.
+      const std::uint64_t size = Size();
+      length = static_cast<std::size_t>(
+          std::min<std::uint64_t>(length, size - std::min(position, size)));
     }
-    return ReadBytes(handle_.Descriptor(), position,
-                     std::min<std::uint64_t>(length, size - position));
+    return position > endOfAny - tamed ? std::string()
+                                       : ReadBytes(handle_.Descriptor(), position, length);
   }
 
   void WriteAt(std::uint64_t position, std::string_view bytes) override {
@@ -117,11 +118,24 @@ class PosixOpenFile final : public OpenFile {
     }
   }
 
+  void Close() override {
+    const int error = handle_.Close();
+    if (error != 0) {
+      ThrowErrno(error);
+    }
+  }
+
  private:
   FileHandle handle_;
+  OpenMode mode_;
+  std::uint64_t sizeAtFirst_;
 };
 
 }  // namespace
+
+std::unique_ptr<OpenFile> MakeReadableFile(FileHandle handle, std::uint64_t size) {
+  return std::make_unique<PosixOpenFile>(std::move(handle), OpenMode::Read, size);
+}
 
 std::string PosixFileSystem::ReadFileBytes(TextView path) {
   const auto file = OpenOrThrow(path, O_RDONLY);
@@ -130,7 +144,22 @@ std::string PosixFileSystem::ReadFileBytes(TextView path) {
 
 std::unique_ptr<OpenFile> PosixFileSystem::Open(TextView path, OpenMode mode) {
   auto file = OpenOrThrow(path, mode == OpenMode::Read ? O_RDONLY : O_RDWR);
-  return std::make_unique<PosixOpenFile>(std::move(file.Handle));
+  return std::make_unique<PosixOpenFile>(std::move(file.Handle), mode, file.Size);
+}
+
+std::unique_ptr<OpenFile> PosixFileSystem::OpenPlainFile(TextView path) {
+  const auto bytes = BytesFromText(path);
+  if (!bytes || IsHiddenPath(path)) {
+    return nullptr;
+  }
+  auto file = OpenRegularFile(*bytes, O_RDONLY);
+  if (!file.WasThere) {
+    return nullptr;
+  }
+  if (!file.Handle.IsOpen()) {
+    ThrowErrno(file.Error);
+  }
+  return MakeReadableFile(std::move(file.Handle), file.Size);
 }
 
 void PosixFileSystem::CreateFile(TextView path, std::string_view bytes) {
@@ -157,7 +186,14 @@ void PosixFileSystem::CreateFile(TextView path, std::string_view bytes) {
 }
 
 void PosixFileSystem::AppendToFile(TextView path, std::string_view bytes) {
-  auto file = OpenOrThrow(path, O_WRONLY | O_APPEND | O_NOFOLLOW);
+  const auto pathBytes = BytesFromText(path);
+  if (!pathBytes) {
+    throw RunError(ErrorNumber::FileNotFound);
+  }
+  auto file = OpenKnownFile(*pathBytes, O_WRONLY | O_APPEND | O_NOFOLLOW);
+  if (!file.Handle.IsOpen()) {
+    ThrowErrno(file.Error);
+  }
   const int descriptor = file.Handle.Descriptor();
   const auto oldSize = static_cast<off_t>(file.Size);
   const ssize_t count =
@@ -170,7 +206,7 @@ void PosixFileSystem::AppendToFile(TextView path, std::string_view bytes) {
   }
   const int error = file.Handle.Close();
   if (error != 0) {
-    std::ignore = truncate(BytesFromText(path)->c_str(), oldSize);
+    std::ignore = truncate(pathBytes->c_str(), oldSize);
     ThrowErrno(error);
   }
 }

@@ -7,7 +7,8 @@ namespace vorlane {
 
 // Names are bytes, exact, case-sensitive unless the mounted file system says otherwise. Every file
 // is opened O_NONBLOCK, so a pipe can't stall the program, and only after a look at its kind.
-// (UseOf looks behind the opening only: what it is asked about was listed as a file.)
+// (What was listed as a file and the journal are looked at behind the opening only, by UseOf and
+// AppendToFile.)
 // RenameNoReplace is renameat2(RENAME_NOREPLACE). Where the file system doesn't offer that: a file
 // by link and unlink; a folder, or where there are no hard links, by a look at the target and a
 // rename, which leaves a moment in which another program could put a file there.
@@ -26,8 +27,10 @@ class PosixFileSystem : public FileSystem {
   std::vector<Text> ListNames(TextView folder) override;
   std::optional<FileTimes> TimesOf(TextView path) override;
   EntryUse UseOf(TextView path) override;
+  EntryUse UseAndOpen(TextView path) override;
   std::string ReadFileBytes(TextView path) override;
   std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) override;
+  std::unique_ptr<OpenFile> OpenPlainFile(TextView path) override;
   RenameOutcome RenameNoReplace(TextView from, TextView to) override;
   bool CreateFolder(TextView path) override;
   bool RemoveFolder(TextView path) override;

@@ -32,28 +32,50 @@ bool IsOpenForWriting(int descriptor) {
   return fcntl(descriptor, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN;
 }
 
-// Closing the descriptor gives back what these take. The lease comes last, since a writer who comes
-// by has to wait as long as we have it.
+// The lease comes last, since a writer who comes by has to wait as long as we have it.
 bool IsHeldByOthers(int descriptor) {
   return HasFlockLock(descriptor) || HasFcntlLock(descriptor) || IsOpenForWriting(descriptor);
 }
 
-}  // namespace
+// What the tests above took. Closing the descriptor does the same.
+void GiveBack(int descriptor) {
+  fcntl(descriptor, F_SETLEASE, F_UNLCK);
+  flock(descriptor, LOCK_UN);
+}
 
-EntryUse PosixFileSystem::UseOf(TextView path) {
+// `entry` is open afterwards if it can be.
+EntryUse LookAtUse(PosixFileSystem& files, TextView path, FileHandle& entry) {
   const auto bytes = BytesFromText(path);
   if (!bytes || IsHiddenPath(path)) {
-    return {StatusOf(path)};
+    return {files.StatusOf(path)};
   }
-  const FileHandle entry(open(bytes->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  entry = FileHandle(open(bytes->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   struct stat status {};
   if (!entry.IsOpen() || fstat(entry.Descriptor(), &status) != 0) {
-    return {StatusOf(path)};
+    return {files.StatusOf(path)};
   }
   EntryUse use{MakePresence(status, false)};
   use.Status.ReadOnly = IsOpenedReadOnly(entry.Descriptor(), bytes->c_str(), status);
   use.InUse = use.Status.Kind == EntryKind::File && !use.Status.ReadOnly &&
               IsHeldByOthers(entry.Descriptor());
+  return use;
+}
+
+}  // namespace
+
+EntryUse PosixFileSystem::UseOf(TextView path) {
+  FileHandle entry;
+  return LookAtUse(*this, path, entry);
+}
+
+EntryUse PosixFileSystem::UseAndOpen(TextView path) {
+  FileHandle entry;
+  EntryUse use = LookAtUse(*this, path, entry);
+  const bool isFree = use.Status.Kind == EntryKind::File && !use.Status.ReadOnly && !use.InUse;
+  if (isFree && entry.IsOpen()) {
+    GiveBack(entry.Descriptor());
+    use.File = MakeReadableFile(std::move(entry), use.Status.Size);
+  }
   return use;
 }
 

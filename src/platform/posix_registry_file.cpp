@@ -61,13 +61,19 @@ void MakeFoldersAbove(const std::string& path) {
   }
 }
 
+// False where the disk knows no locks: there is nothing to wait for then, and a program that runs
+// alone needs none.
+bool IsHeldByOthers(int error) {
+  return error == EWOULDBLOCK || error == EINTR;
+}
+
 // A descriptor that holds the lock, or a closed one if it was held by others all the time.
 FileHandle Lock(const std::string& path, std::chrono::milliseconds patience) {
   constexpr std::chrono::milliseconds pause(5);
   const auto attempts = 1 + patience / pause;
   FileHandle lock(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, FileMode));
   for (auto attempt = attempts; lock.IsOpen() && attempt > 0; --attempt) {
-    if (flock(lock.Descriptor(), LOCK_EX | LOCK_NB) == 0) {
+    if (flock(lock.Descriptor(), LOCK_EX | LOCK_NB) == 0 || !IsHeldByOthers(errno)) {
       return lock;
     }
     std::this_thread::sleep_for(pause);

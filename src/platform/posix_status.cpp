@@ -16,11 +16,6 @@ EntryKind KindOf(mode_t mode) {
   return S_ISDIR(mode) ? EntryKind::Folder : EntryKind::Other;
 }
 
-// Asked besides the access test, which lets the superuser through whatever the mode says.
-bool NobodyMayWrite(const struct stat& status) {
-  return (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
-}
-
 }  // namespace
 
 bool IsHiddenPath(TextView path) {
@@ -41,12 +36,16 @@ EntryStatus MakePresence(const struct stat& status, bool hidden) {
   return result;
 }
 
+bool NobodyMayWrite(mode_t mode) {
+  return (mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+}
+
 bool IsReadOnly(int folder, const char* name, const struct stat& status) {
-  return NobodyMayWrite(status) || faccessat(folder, name, W_OK, AT_EACCESS) != 0;
+  return NobodyMayWrite(status.st_mode) || faccessat(folder, name, W_OK, AT_EACCESS) != 0;
 }
 
 bool IsOpenedReadOnly(int descriptor, const char* path, const struct stat& status) {
-  if (NobodyMayWrite(status)) {
+  if (NobodyMayWrite(status.st_mode)) {
     return true;
   }
   const bool refused = faccessat(descriptor, "", W_OK, AT_EACCESS | AT_EMPTY_PATH) != 0;

@@ -13,6 +13,9 @@ bool IsHiddenPath(TextView path);
 // ReadOnly left out.
 EntryStatus MakePresence(const struct stat& status, bool hidden);
 
+// Asked besides the access test, which lets the superuser through whatever the mode says.
+bool NobodyMayWrite(mode_t mode);
+
 // `name` is relative to the open folder `folder`, or a whole path with AT_FDCWD.
 bool IsReadOnly(int folder, const char* name, const struct stat& status);
 

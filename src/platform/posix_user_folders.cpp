@@ -24,7 +24,7 @@ std::string Variable(const char* name) {
 
 std::string HomeFolder() {
   std::string home = Variable("HOME");
-  if (!home.empty()) {
+  if (home.starts_with('/')) {
     return home;
   }
   const passwd* user = getpwuid(getuid());

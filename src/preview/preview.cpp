@@ -155,8 +155,10 @@ bool Preview::IsOutdated(const RowInHand& in) const {
 void Preview::PreviewRow(Pass& pass, std::int32_t row) {
   const RowInHand in = TakeRow(row);
   const Text fullPath = in.Path + in.Name;
-  const EntryUse use = form_.ListFolders ? EntryUse{services_.Files.StatusOf(fullPath)}
-                                         : services_.Files.UseOf(fullPath);
+  const bool isMp3 = !form_.ListFolders && HasMp3Extension(in.Name);
+  EntryUse use = form_.ListFolders ? EntryUse{services_.Files.StatusOf(fullPath)}
+                 : isMp3           ? services_.Files.UseAndOpen(fullPath)
+                                   : services_.Files.UseOf(fullPath);
   const EntryStatus& status = use.Status;
   const bool exists = status.Kind == EntryKind::File || status.Kind == EntryKind::Folder;
   if (!exists || status.Hidden) {
@@ -170,8 +172,8 @@ void Preview::PreviewRow(Pass& pass, std::int32_t row) {
     form_.SetProposedCell(row, FileInUseMarker());
     return;
   }
-  if (!form_.ListFolders && HasMp3Extension(in.Name)) {
-    pass.Tags = ReadRowTags(form_, services_, row);
+  if (isMp3) {
+    pass.Tags = ReadRowTags(form_, services_, row, std::move(use.File));
   }
   {
     const QuietBoxes quiet(form_);

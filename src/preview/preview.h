@@ -50,7 +50,7 @@ class Preview {
     bool UsesAutoNumber = false;
     UsedNumbers NumberUsed;
     std::optional<FolderId> PreviousFolder;
-    RowTags Tags;  // the last MP3 records read; not cleared between rows
+    ID3Tags Tags;  // the last MP3 records read; not cleared between rows
   };
 
   // A row as it was when its turn came. A yield may move rows or fill the list anew, so nothing of

@@ -1,13 +1,11 @@
 #include "preview/row_tags.h"
 
-#include "metadata/tag_reading.h"
-
 namespace vorlane {
 
-RowTags ReadRowTags(Form& form, Services& services, std::int32_t row) {
+ID3Tags ReadRowTags(Form& form, Services& services, std::int32_t row,
+                    std::unique_ptr<OpenFile> opened) {
   const Text path = form.Rows.PathOf(row) + form.Rows.At(row).Name;
-  RowTags tags{ReadID3v1(services.Files, services.Report, path),
-               ReadID3v2(services.Files, services.Report, path)};
+  ID3Tags tags = ReadID3Tags(services.Files, services.Report, path, std::move(opened));
   form.SetTagPresence(row, Column::ID3v1, tags.V1.Present);
   form.SetTagPresence(row, Column::ID3v2, tags.V2.Present);
   if (!tags.V2.Present) {

@@ -10,7 +10,9 @@ namespace {
 
 void SaveListSettings(Form& form, ClosingWindow& window, Settings& settings) {
   settings.SaveSetting(SettingsSection, SettingKey::WildCards, WildcardBox(form).StoredItems());
-  settings.SaveSetting(SettingsSection, SettingKey::StartPath, form.CurrentPath);
+  if (!form.CurrentPath.empty()) {  // otherwise no folder has been shown yet
+    settings.SaveSetting(SettingsSection, SettingKey::StartPath, form.CurrentPath);
+  }
   for (const Column column :
        {Column::CurrentName, Column::ProposedName, Column::Artist, Column::Title, Column::ID3v1,
         Column::ID3v2, Column::ReadOnly, Column::Path}) {
@@ -50,7 +52,7 @@ void SaveSettingsAtExit(Form& form, ClosingWindow& window, const ShutDownService
   Attempt([&] { SaveWindow(window, services.Settings); });
   Attempt([&] { UpdateVerb(services.Registry, StoredContext(services.Settings), programPath); });
   Attempt([&] {
-    if (JournalExists(services.Files, form.CurrentPath)) {
+    if (!form.CurrentPath.empty() && JournalExists(services.Files, form.CurrentPath)) {
       services.Files.RemoveFile(JournalPath(form.CurrentPath));
     }
   });

@@ -26,6 +26,9 @@ void EventGate::Start(std::function<void()> handler) {
 }
 
 void EventGate::Run(const std::function<void()>& handler) {
+  if (closed_) {
+    return;
+  }
   {
     const Inside inside(*this);
     handler();

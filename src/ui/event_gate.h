@@ -25,6 +25,12 @@ class EventGate {
 
   bool IsIdle() const { return depth_ == 0; }
 
+  // What waits behind a preview is forgotten.
+  void ForgetWaiting() { waiting_.clear(); }
+
+  // From here on no handler runs.
+  void Close() { closed_ = true; }
+
   // Called whenever the outermost handler has returned and nothing waits behind it.
   std::function<void()> OnIdle;
 
@@ -33,6 +39,7 @@ class EventGate {
 
   JobStates& jobs_;
   int depth_ = 0;
+  bool closed_ = false;
   std::deque<std::function<void()>> waiting_;
 };
 

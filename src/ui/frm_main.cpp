@@ -75,7 +75,8 @@ void FrmMain::RestorePlacement(const PlacementToApply& placement) {
 
 TwipsRect FrmMain::NormalPlacement() const {
   const QSize client = isMinimized() ? normalGeometry().size() : size();
-  const QPoint frame = isMinimized() ? normalGeometry().topLeft() : pos();
+  const QPoint frame =
+      isMinimized() ? normalGeometry().topLeft() - (geometry().topLeft() - pos()) : pos();
   return {TwipsOf(frame.x()), TwipsOf(frame.y()), TwipsOf(client.width()),
           TwipsOf(client.height())};
 }

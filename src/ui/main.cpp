@@ -25,10 +25,13 @@ Text CommandLine(int argc, char** argv) {
 }
 
 // X11 alone lets a program place its windows; under Wayland it comes through XWayland.
-void PreferX11() {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+// True if the choice was this program's and not the user's.
+bool PreferX11() {
+  const bool isOurs = !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+  if (isOurs) {
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
   }
+  return isOurs;
 }
 
 int RunWindow(QApplication& app, const Text& commandLine) {
@@ -46,9 +49,12 @@ int RunWindow(QApplication& app, const Text& commandLine) {
   };
   const StopSignal stop([&] {
     fades = false;
-    program.Close();
+    program.CloseUnattended();
   });
-  QObject::connect(&app, &QGuiApplication::commitDataRequest, [&] { fades = false; });
+  QObject::connect(&app, &QGuiApplication::commitDataRequest, [&] {
+    fades = false;
+    program.CloseUnattended();
+  });
   LoadMainWindow(program, services, ProgramFolder());
   program.Show();
   const Text start = ChooseStartFolder(
@@ -64,8 +70,11 @@ int main(int argc, char** argv) {
   if (IsUninstall(CommandLine(argc, argv))) {
     return RunUninstall(argc, argv);
   }
-  PreferX11();
+  const bool isOurChoice = PreferX11();
   QApplication app(argc, argv);  // takes its own arguments out
+  if (isOurChoice) {
+    qunsetenv("QT_QPA_PLATFORM");  // what is started from here chooses for itself
+  }
   SetApplicationLook();
   return RunWindow(app, CommandLine(argc, argv));
 }

@@ -96,7 +96,10 @@ void PlaceWindow(FrmMain& window, Settings& settings) {
 RunValues ValuesOf(Program& program, FileSystem& files) {
   const QSize screen = QGuiApplication::primaryScreen()->size();
   RunValues values = RunValuesOf(program.State());
-  values.ProgramSize = files.StatusOf(ProgramFile()).Size;
+  const EntryStatus file = files.StatusOf(ProgramFile());
+  if (file.Kind == EntryKind::File) {
+    values.ProgramSize = file.Size;
+  }
   values.ScreenWidth = screen.width();
   values.ScreenHeight = screen.height();
   values.OperationText = program.SelectedTitle();
@@ -108,12 +111,14 @@ RunValues ValuesOf(Program& program, FileSystem& files) {
 void LoadMainWindow(Program& program, DesktopServices& services, const Text& programFolder) {
   FrmMain& window = program.Window();
   services.Report.SetRunValues([&] { return ValuesOf(program, services.Files); });
-  UpgradeSettings(services.Registry);
+  const bool isFirstStart = UpgradeSettings(services.Registry);
+  program.HideLabelsLater(isFirstStart);
   Settings& settings = services.Settings;
   program.Wildcard().LoadItems(settings.GetSetting(SettingsSection, SettingKey::WildCards, u""));
   LoadColumns(program, settings);
   LoadOperations(program, services, programFolder);
   window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
+  window.Controls().Status->setToolTip(ToQString(InterfaceText(TextNumber::PointAtQuestionMark)));
   program.SelectOperation(StoredLastOperation(settings));
   window.InitLayout();
   PlaceWindow(window, settings);

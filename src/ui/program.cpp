@@ -1,6 +1,7 @@
 #include "ui/program.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFocusEvent>
 
 #include "ui/qt_text.h"
@@ -87,6 +88,15 @@ void Program::SelectOperation(std::int32_t index) {
 void Program::Show() {
   window_.show();
   wildcard_.FormVisible = true;
+  shown_ = true;
+}
+
+void Program::HideLabelsLater(bool isFirstStart) {
+  constexpr int FirstStartMilliseconds = 10'000;
+  if (isFirstStart) {
+    timers_.tmrHideAllLabels.setInterval(FirstStartMilliseconds);
+  }
+  timers_.tmrHideAllLabels.start();
 }
 
 void Program::ShowFolder(const Text& folder) {
@@ -225,7 +235,7 @@ void Program::ConnectWindow() {
   gate_.OnIdle = [this] {
     presenter_.Refresh();
     RefreshFolders();
-    if (closeWanted_ && !closed_) {
+    if (closeWanted_ && shown_ && !closed_) {
       QTimer::singleShot(0, &window_, [this] { window_.close(); });
     }
   };
@@ -249,12 +259,15 @@ bool Program::MayClose() {
   if (closed_) {
     return true;
   }
-  if (!gate_.IsIdle() || QApplication::activeModalWidget() != nullptr) {
+  const bool isBusy = !gate_.IsIdle() || QApplication::activeModalWidget() != nullptr;
+  if (isBusy || !shown_) {
     closeWanted_ = true;
+    gate_.ForgetWaiting();
     form_.Jobs.RequestStop();
     return false;
   }
   closed_ = true;
+  gate_.Close();  // what happens while the window fades away starts nothing
   if (OnClosing) {
     OnClosing();
   }
@@ -263,6 +276,14 @@ bool Program::MayClose() {
 
 void Program::Close() {
   window_.close();
+}
+
+void Program::CloseUnattended() {
+  if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+    box->reject();
+  }
+  // The box's own loop has to end first.
+  QTimer::singleShot(0, &window_, [this] { Close(); });
 }
 
 // TAB goes from box to box while one is shown.

@@ -58,6 +58,12 @@ class Program {
   // Asks the jobs to stop and closes the window as soon as they have ended.
   void Close();
 
+  // The same when nobody is there to answer: a message box that is open is closed first.
+  void CloseUnattended();
+
+  // The start of the timer that ends the show of labels. It takes longer at a first start.
+  void HideLabelsLater(bool isFirstStart);
+
   FrmMain& Window() { return window_; }
   Form& State() { return form_; }
   WildcardBox& Wildcard() { return wildcard_; }
@@ -103,6 +109,7 @@ class Program {
   WindowKeys keys_;
   OperationsTree operations_;
   std::uint64_t shownGeneration_ = 0;  // of the list, when the folder tree was last read again
+  bool shown_ = false;
   bool closeWanted_ = false;
   bool closed_ = false;
 };

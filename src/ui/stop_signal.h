@@ -1,4 +1,4 @@
-// SIGTERM and SIGINT as events: the program then closes in good order.
+// A signal that asks the program to end, as an event: the program then closes in good order.
 #pragma once
 
 #include <QSocketNotifier>
@@ -7,17 +7,12 @@
 
 namespace vorlane {
 
-// At most one in a program. The handlers stay in place when it goes.
+// At most one in a program.
 class StopSignal {
  public:
   explicit StopSignal(std::function<void()> onStop);
-  ~StopSignal();
-  StopSignal(const StopSignal&) = delete;
-  StopSignal& operator=(const StopSignal&) = delete;
 
  private:
-  void Drain();
-
   std::function<void()> onStop_;
   std::unique_ptr<QSocketNotifier> notifier_;
 };

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "platform/vendor.h"
 
 namespace vorlane {
@@ -69,6 +71,33 @@ TEST(JournalFields, ATagsLineBreaksDoNotEndItsRecord) {
   const Text tag = u"2|-1||||01||19\r\n|0";
   EXPECT_EQ(JournalTagFields(tag), "2|-1||||01||19//000D//000A|0");
   EXPECT_EQ(TextOfJournalTagFields(JournalTagFields(tag)), tag);
+}
+
+TEST(JournalFields, ATextThatLooksLikeALineBreakComesBack) {
+  const std::pair<Text, std::string> cases[] = {
+      {u"//000D", "//002F/000D"},   {u"//000A//002F", "//002F/000A//002F/002F"},
+      {u"///000D", "///002F/000D"}, {u"/\r", "///000D"},
+      {u"//\n", "////000A"},        {u"//00\r0D", "//00//000D0D"},
+      {u"12//9", "12//9"},          {u"//007C//000d//000", "//007C//000d//000"},
+  };
+  for (const auto& [text, written] : cases) {
+    EXPECT_EQ(JournalTagFields(text), written);
+    EXPECT_EQ(TextOfJournalTagFields(written), text);
+  }
+}
+
+TEST(JournalFields, EveryTagComesBack) {
+  constexpr TextView pieces[] = {u"/", u"//", u"//000D", u"000A", u"//002F", u"00", u"\r", u"\n"};
+  std::mt19937 random(1);
+  for (int round = 0; round < 5000; ++round) {
+    Text tag;
+    for (auto count = random() % 6; count > 0; --count) {
+      tag += pieces[random() % std::size(pieces)];
+    }
+    const std::string written = JournalTagFields(tag);
+    EXPECT_EQ(written.find_first_of("\r\n"), std::string::npos) << written;
+    EXPECT_EQ(TextOfJournalTagFields(written), tag) << written;
+  }
 }
 
 TEST(JournalHeader, TellsAJournalFromSomebodysFile) {

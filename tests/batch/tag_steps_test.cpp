@@ -3,9 +3,8 @@
 
 #include <algorithm>
 
-#include "metadata/tag_reading.h"
-#include "support/form_world.h"
 #include "support/id3_bytes.h"
+#include "support/song_world.h"
 
 namespace vorlane {
 namespace {
@@ -14,37 +13,6 @@ using Names = std::vector<Text>;
 using Reports = std::vector<RecordingReport::Report>;
 using id3::Audio;
 using id3::V1;
-
-constexpr TextView Song = u"/R/song.mp3";
-
-// One file "song.mp3" with these bytes, listed in All mode.
-struct SongWorld : MemoryWorld {
-  explicit SongWorld(const std::string& bytes, const Text& name = u"song.mp3")
-      : Before(bytes), Path(u"/R/" + name) {
-    Disk.Write(Path, bytes);
-    World.ListAll(u"/R/");
-  }
-
-  void Run(const std::vector<Text>& steps) {
-    World.SelectSteps(steps);
-    World.RunAll();
-  }
-  std::string Body() const { return Disk.Read(u"/R/UNDORENAME.TXT").substr(JournalHeaderSize); }
-  std::ptrdiff_t CountInBody(char character) const {
-    const std::string body = Body();
-    return std::count(body.begin(), body.end(), character);
-  }
-  ID3Tag TagV1() { return ReadID3v1(Disk, World.Report, Path); }
-  ID3Tag TagV2() { return ReadID3v2(Disk, World.Report, Path); }
-  const FileRow& Row() const { return World.State.Rows.At(1); }
-
-  const std::string Before;
-  const Text Path;
-};
-
-std::string TaggedV1() {
-  return Audio(500) + V1("Title", "Artist", "Album", "1999", "Note", 7, 17);
-}
 
 TEST(WriteID3v1Step, WritesItsFiveFields) {
   SongWorld on(Audio(500));
@@ -275,83 +243,87 @@ TEST(TagSteps, ATagKeywordOnAnotherKindOfFileStays) {
   EXPECT_TRUE(on.Disk.Exists(u"/R/b <ARTIST>"));
 }
 
-TEST(UndoTags, RestoresTheTagUnderTheOldName) {
-  const std::vector<std::vector<Text>> operations{
-      {u"<RemoveID3v1>"},
-      {u"<RemoveID3v1>", u"new<EXTONLY>"},
-      {u"<WriteID3v1>A|B|C|D|5</WriteID3v1>", u"new<EXTONLY>"},
-  };
-  for (const auto& steps : operations) {
-    // Neither year nor genre is written to such a tag, so they can't come back.
-    SongWorld on(Audio(500) + V1("Title", "Artist", "Album", "", "Note", 7, 0));
-    on.Run(steps);
-    EXPECT_NE(on.Disk.Contents(u"/R/"),
+const std::vector<Text> EachTagStep = {
+    u"<RemoveID3v1>",
+    u"<WriteID3v1>A|B|C|D|5</WriteID3v1>",
+    u"<WriteID3v2>A|B|C|D|5|0</WriteID3v2>",
+    u"<WriteID3v2>A|B|C|D|5|1</WriteID3v2>",
+};
+
+TEST(TagSteps, TheRecordIsWrittenBeforeTheFileIsOpened) {
+  for (const Text& step : EachTagStep) {
+    SongWorld on(TaggedV1());
+    std::size_t records = 0;
+    std::size_t writes = 0;
+    on.Disk.BeforeCall = [&](const CallInfo& call) {
+      records += call.Method == u"AppendToFile" ? 1 : 0;
+      if (call.Mutating && call.Path == Song) {
+        ++writes;
+        EXPECT_EQ(records, 1U) << testing::PrintToString(call.Method);
+        EXPECT_TRUE(on.Body().ends_with("|/R/|song.mp3"));
+      }
+    };
+    on.Run({step});
+    EXPECT_GE(writes, 1U);
+    EXPECT_EQ(records, 2U);
+  }
+}
+
+TEST(TagSteps, WithoutTheirRecordAreNotCarriedOut) {
+  for (const Text& step : EachTagStep) {
+    SongWorld on(TaggedV1());
+    const FileRow before = on.Row();
+    on.FailRecord(1);
+    on.Run({step});
+    EXPECT_EQ(on.World.Report.Reports, (Reports{{u"", u"UpdateUndoFile", u"", 61}}));
+    EXPECT_EQ(on.Disk.Contents(u"/R/"),
               (std::map<std::string, std::string>{{"song.mp3", on.Before}}));
-    on.World.Undo.cmdUndo_Click();
+    EXPECT_EQ(on.Row().Artist, before.Artist);
+    EXPECT_EQ(on.Row().ID3v1, YesNo::Yes);
+    EXPECT_EQ(on.Row().ID3v2, YesNo::No);
+  }
+}
+
+TEST(TagSteps, WithoutTheirRecordLeaveTheRenameARecordOfItsOwn) {
+  for (const Text& step : EachTagStep) {
+    SongWorld on(TaggedV1());
+    on.FailRecord(1);
+    on.Run({step, u"new<EXTONLY>"});
+    EXPECT_EQ(on.Body(), "<VORL>|/R/|song.mp3|new.mp3\r\n");
+    on.Undo();
     EXPECT_EQ(on.Disk.Contents(u"/R/"),
               (std::map<std::string, std::string>{{"song.mp3", on.Before}}));
   }
 }
 
-TEST(UndoTags, AFileWithoutID3v1LosesTheOneTheRunGaveIt) {
-  SongWorld on(Audio(500));
-  on.Run({u"<WriteID3v1>A|B|C|D|5</WriteID3v1>"});
-  on.World.Undo.cmdUndo_Click();
-  EXPECT_EQ(on.Disk.Read(Song), Audio(500));
-}
-
-TEST(UndoTags, AnAbsentID3v2TagComesBackAsEmptyFields) {
-  SongWorld on(Audio(500));
-  on.Run({u"<WriteID3v2>A|B|C|D|5|0</WriteID3v2>"});
-  on.World.Undo.cmdUndo_Click();
-  const ID3Tag tag = on.TagV2();
-  EXPECT_TRUE(tag.Present);
-  EXPECT_EQ(tag.Artist, u"");
-  EXPECT_EQ(tag.Title, u"");
-  EXPECT_TRUE(on.Disk.Read(Song).ends_with(Audio(500)));
-}
-
-TEST(UndoTags, AnID3v2TagComesBackToTheByte) {
-  const std::string frames = id3::Frame("TPE1", "Old") + id3::Frame("TIT2", "Name") +
-                             id3::Frame("TALB", "Disc") + id3::Comment("Said") +
-                             id3::Frame("TYER", "2001") + id3::Frame("TRCK", "03") +
-                             id3::Frame("TCON", "(17)");
-  SongWorld on(id3::Tag(400, frames) + Audio(500));
-  on.Run({u"<WriteID3v2>New|Other|One|More|9|0</WriteID3v2>"});
-  EXPECT_NE(on.Disk.Read(Song), on.Before);
-  on.World.Undo.cmdUndo_Click();
-  EXPECT_EQ(on.Disk.Read(Song), on.Before);
-}
-
-TEST(UndoTags, ABarredRenameKeepsTheTagFromAnotherFile) {
-  SongWorld on(TaggedV1());
-  on.Run({u"<RemoveID3v1>", u"new<EXTONLY>"});
-  on.Disk.Write(Song, Audio(300));  // another file has the old name now
-  on.World.Undo.cmdUndo_Click();
-  EXPECT_EQ(on.Disk.Read(Song), Audio(300));
+TEST(TagSteps, OfTwoTheOneThatIsRecordedCanBeUndone) {
+  SongWorld on(Audio(500) + V1("Title", "Artist", "Album", "", "Note", 7, 0));
+  on.FailRecord(2);
+  on.Run({u"<RemoveID3v1>", u"<WriteID3v2>A|B|C|D|5|0</WriteID3v2>", u"new<EXTONLY>"});
   EXPECT_EQ(on.Disk.Read(u"/R/new.mp3"), Audio(500));
+  on.Undo();
+  EXPECT_EQ(on.Disk.Contents(u"/R/"),
+            (std::map<std::string, std::string>{{"song.mp3", on.Before}}));
 }
 
-TEST(UndoTags, NeverMakeAFile) {
-  SongWorld on(TaggedV1());
-  on.Run({u"<RemoveID3v1>"});
-  on.Disk.Remove(Song);
-  on.World.Undo.cmdUndo_Click();
-  EXPECT_EQ(on.Disk.Contents(u"/R/"), (std::map<std::string, std::string>{}));
-  EXPECT_TRUE(on.World.Report.Reports.empty());
+TEST(TagSteps, WithoutAJournalAreNotCarriedOutThoughTheRunGoesOn) {
+  for (const Text& step : EachTagStep) {
+    SongWorld on(TaggedV1());
+    on.Disk.Write(u"/R/UNDORENAME.TXT", "somebody's own");
+    on.Run({step, u"new<EXTONLY>"});
+    EXPECT_EQ(on.World.Report.Reports, (Reports{{u"", u"CreateUndoFile", u"", 58}}));
+    EXPECT_EQ(on.Disk.Read(u"/R/new.mp3"), on.Before);
+  }
 }
 
-TEST(UndoTags, ABrokenVersionEndsTheUndo) {
-  MemoryWorld on;
-  on.Disk.Write(u"/R/b", "bytes");
-  on.Disk.Write(u"/R/UNDORENAME.TXT", JournalHeader() +
-                                          "<VORL>|/R/|a|b\r\n"
-                                          "<MP3TAG>|x|-1|||||||0|/R/|song.mp3\r\n");
-  on.World.State.CurrentPath = u"/R/";
-  on.World.Undo.cmdUndo_Click();
-  ASSERT_EQ(on.World.Report.Reports.size(), 1U);
-  EXPECT_EQ(on.World.Report.Reports[0].Procedure, u"cmdUndo_Click");
-  EXPECT_EQ(on.Disk.Contents(u"/R/"), (std::map<std::string, std::string>{{"b", "bytes"}}));
+TEST(TagSteps, ALineThatCannotBeClosedTakesTheNextRecordWithIt) {
+  SongWorld on(TaggedV1(), u"a.mp3");
+  on.Disk.Write(u"/R/b.txt", "text");
+  on.World.ListAll(u"/R/");
+  on.FailRecord(2);
+  on.Run({u"<RemoveID3v1>", u"new<EXTONLY>"});
+  EXPECT_EQ(on.Disk.Read(u"/R/new.mp3"), Audio(500));
+  EXPECT_TRUE(on.Body().ends_with("|/R/|a.mp3<VORL>|/R/|b.txt|new.txt\r\n"));
 }
 
 }  // namespace

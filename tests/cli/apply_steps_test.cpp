@@ -194,6 +194,21 @@ TEST_F(CliApplySteps, AnID3v2TagThatCannotBeWrittenIsRefused) {
   EXPECT_EQ(folder_.Read("a.mp3"), farPastTheEnd);
 }
 
+TEST_F(CliApplySteps, ATagThatCannotBeRecordedIsRefused) {
+  folder_.Write("a.mp3", "audio");
+  folder_.Write("UNDORENAME.TXT", "somebody's own text");
+  const ProgramResult result =
+      Apply({"--code", "<WriteID3v1>A|T|L|C|1</WriteID3v1>", "--code", "x<FILENAME>"});
+  EXPECT_EQ(result.Status, 1);
+  EXPECT_EQ(result.Output, "a.mp3 -> xa.mp3\n");
+  EXPECT_NE(result.Errors.find(
+                "vorlane-cli: a.mp3: tag unchanged: the undo file can't record the old one\n"
+                "1 of 1 changed, 1 refused\n"),
+            std::string::npos)
+      << result.Errors;
+  EXPECT_EQ(folder_.Read("xa.mp3"), "audio");
+}
+
 // A tag step with too few fields ends the whole run.
 TEST_F(CliApplySteps, ABrokenStepEndsTheRun) {
   folder_.Write("a.mp3", "audio");

@@ -96,22 +96,23 @@ class WindowTest(unittest.TestCase):
         runtime = self.work / "runtime"
         runtime.mkdir(mode=0o700, exist_ok=True)
         return dict(environment, HOME=str(self.home), XDG_RUNTIME_DIR=str(runtime),
-                    VORLANE_HOME=str(self.program_folder), VORLANE_NO_FADE="1", **more)
+                    VORLANE_HOME=str(self.program_folder), **{"VORLANE_NO_FADE": "1", **more})
 
-    def start(self, *arguments, **environment):
+    def start_process(self, *arguments, **environment):
         self.process = subprocess.Popen([BIN / "vorlane", *map(str, arguments)],
                                         env=self.environment(**environment), cwd=self.work)
         self.addCleanup(self.kill, self.process)
+
+    def start(self, *arguments, **environment):
+        self.start_process(*arguments, **environment)
         self.window = wait_for(self.find_window, "the window")
         self.display.run("xdotool", "windowactivate", "--sync", self.window)
-        wait_for(lambda: self.setting("StartPath") is not None or self.is_up(), "the first listing")
 
-    def is_up(self):
-        return self.find_window() is not None
-
-    def find_window(self):
+    def find_window(self, is_main=True):
+        """The main window, or a message box, which has the same title."""
         found = self.display.run("xdotool", "search", "--onlyvisible", "--name", TITLE).stdout.split()
-        return found[0] if found else None
+        return next((window for window in found
+                     if (self.geometry(window)[2] > 900) == is_main), None)
 
     @staticmethod
     def kill(process):
@@ -152,10 +153,11 @@ class WindowTest(unittest.TestCase):
                 return line.split(":", 1)[1]
         return None
 
-    def geometry(self):
-        lines = self.display.run("xdotool", "getwindowgeometry", "--shell", self.window).stdout
+    def geometry(self, window=None):
+        lines = self.display.run("xdotool", "getwindowgeometry", "--shell",
+                                 window or self.window).stdout
         values = dict(line.split("=") for line in lines.split())
-        return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+        return tuple(int(values.get(key, 0)) for key in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def test_a_whole_visit(self):
         self.start(self.files)
@@ -281,16 +283,71 @@ class WindowTest(unittest.TestCase):
 
     def test_a_missing_catalogue_is_told_and_bars_go(self):
         (self.program_folder / "Operations.ini").unlink()
-        self.process = subprocess.Popen([BIN / "vorlane", str(self.files)], env=self.environment())
-        self.addCleanup(self.kill, self.process)
-        wait_for(self.find_window, "the message box")
-        time.sleep(0.3)
+        self.start_process(self.files)
+        box = wait_for(lambda: self.find_window(is_main=False), "the message box")
+        self.display.run("xdotool", "windowactivate", "--sync", box)
         self.keys("Return")
         self.window = wait_for(self.find_window, "the window")
-        time.sleep(0.5)
+        self.display.run("xdotool", "windowactivate", "--sync", self.window)
         self.click(GO)
         self.close()
         self.assertEqual(self.names(), ["a.txt", "b.txt", "c.mp3"])
+
+    def test_sigterm_closes_an_open_box_and_wipes_nothing(self):
+        self.start(self.files)
+        self.close()
+        (self.program_folder / "Operations.ini").unlink()
+        self.start_process()
+        wait_for(lambda: self.find_window(is_main=False), "the message box")
+        self.process.send_signal(signal.SIGTERM)
+        self.assertEqual(self.ended(), 0)
+        self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+
+    def test_sigterm_in_the_middle_of_a_run_ends_it_behind_the_row_in_hand(self):
+        for number in range(4000):
+            (self.files / f"more {number}").write_text(str(number))
+        count = len(self.names())
+        self.start(self.files)
+        self.click(DO_ONE)
+        self.click(GO)
+        wait_for(lambda: any(name.startswith("new ") for name in self.names()), "the first rename")
+        self.process.send_signal(signal.SIGTERM)
+        self.assertEqual(self.ended(), 0)
+        renamed = [name for name in self.names() if name.startswith("new ")]
+        self.assertLess(len(renamed), count)
+        self.assertEqual(len(self.names()), count)
+        for name in renamed:
+            if name.startswith("new more "):
+                self.assertEqual((self.files / name).read_text(), name[len("new more "):])
+
+    def test_the_window_fades_away_behind_the_saving(self):
+        self.start(self.files, VORLANE_NO_FADE="0")
+        self.keys("ctrl+q")
+        begin = time.monotonic()
+        wait_for(lambda: self.setting("StartPath"), "the saved settings")
+        self.assertIsNone(self.process.poll())
+        self.assertEqual(self.ended(), 0)
+        self.assertGreater(time.monotonic() - begin, 0.7)
+
+    def test_what_is_no_folder_is_no_start_folder(self):
+        self.start(self.files)
+        self.close()
+        for argument in (self.files / "a.txt", "/uninstall", "nowhere"):
+            self.start(argument)
+            self.close()
+            self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+        self.start("files")
+        self.close()
+        self.assertEqual(self.setting("StartPath"), f"{self.files}/")
+
+    def test_a_home_that_takes_no_files_keeps_nobody_from_working(self):
+        blocked = self.work / "blocked"
+        blocked.write_text("a file, not a folder")
+        self.start(self.files, XDG_CONFIG_HOME=str(blocked), XDG_DATA_HOME=str(blocked),
+                   XDG_STATE_HOME=str(blocked))
+        self.click(GO)
+        self.names_become("new a.txt", "b.txt", "c.mp3")
+        self.close()
 
 
 if __name__ == "__main__":

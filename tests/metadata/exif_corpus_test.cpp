@@ -10,6 +10,7 @@
 #include "metadata/exif.h"
 #include "platform/failure.h"
 #include "platform/posix_file_system.h"
+#include "support/corpus.h"
 
 namespace vorlane {
 namespace {
@@ -151,6 +152,10 @@ TEST(ExifCorpus, EveryFileIsInATable) {
   }
   std::sort(found.begin(), found.end());
   EXPECT_EQ(found, known);
+}
+
+TEST(ExifCorpus, IsWhatItsScriptMakes) {
+  EXPECT_TRUE(MadeBy("make_exif_corpus.py") == BytesOf(VORLANE_TEST_DATA "/exif"));
 }
 
 TEST(ExifCorpus, EachFileIsListedAsTold) {

@@ -1,20 +1,18 @@
 // The files of tests/data/id3, which tools/make_id3_corpus.sh makes: what each gives.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <map>
 #include <set>
 
 #include "metadata/tag_reading.h"
 #include "metadata/tag_writing.h"
 #include "platform/file_name_bytes.h"
 #include "platform/posix_file_system.h"
+#include "support/corpus.h"
 #include "support/memory_file_system.h"
 #include "support/recording_prompter.h"
 #include "support/recording_report.h"
 #include "support/recording_status_line.h"
-#include "support/temporary_folder.h"
 
 namespace vorlane {
 namespace {
@@ -139,21 +137,8 @@ TEST(ID3Corpus, EachFileIsInTheTable) {
   EXPECT_EQ(present, named);
 }
 
-std::map<std::string, std::string> BytesOf(const std::filesystem::path& folder) {
-  PosixFileSystem files;
-  std::map<std::string, std::string> bytes;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    bytes[entry.path().filename().string()] =
-        files.ReadFileBytes(TextFromBytes(entry.path().string()));
-  }
-  return bytes;
-}
-
 TEST(ID3Corpus, IsWhatItsScriptMakes) {
-  const TemporaryFolder made;
-  const std::string script = VORLANE_SOURCE_DIR "/tools/make_id3_corpus.sh";
-  ASSERT_EQ(std::system(("'" + script + "' '" + made.Path() + "'").c_str()), 0);
-  EXPECT_TRUE(BytesOf(made.Path()) == BytesOf(Corpus));
+  EXPECT_TRUE(MadeBy("make_id3_corpus.sh") == BytesOf(Corpus));
 }
 
 // Whatever a file holds, a write either goes through or leaves it alone.

@@ -1,9 +1,13 @@
 #include "metadata/id3v2_reader.h"
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+
+#include <cstring>
 
 #include "platform/failure.h"
 #include "support/id3_bytes.h"
+#include "support/limited_memory.h"
 
 namespace vorlane {
 namespace {
@@ -124,6 +128,36 @@ TEST(ParseID3v2, FrameCutShortByTheEndOfTheFile) {
 TEST(ParseID3v2, FrameWithoutASizeByteIsAnError) {
   EXPECT_EQ(ErrorOf(Header(300) + Nuls(284) + "TPE1" + Nuls(3)), 5);
   EXPECT_EQ(ErrorOf(Header(300) + Nuls(283) + "TPE1" + Nuls(4)), 0);
+  // The size byte of the genre is never looked at.
+  EXPECT_EQ(ErrorOf(Header(300) + Nuls(284) + "TCON" + Nuls(3)), 0);
+}
+
+TEST(ParseID3v2, FrameWhoseNulsAreMissingIsFound) {
+  // A comment of size 0 takes the genre its length, which the header would have given it.
+  const std::string start = "ID3" + Nuls(3) + Byte(5) + Nuls(3) + Frame("TCON", "(17)");
+  for (std::size_t nuls = 0; nuls <= 4; ++nuls) {
+    EXPECT_EQ(ParseID3v2(start + "COMM" + Nuls(nuls)).Genre, 0) << nuls;
+  }
+  for (const std::string& end : {std::string("COM"), "COMM" + Byte(1), "COMM" + Nuls(2) + "x"}) {
+    EXPECT_EQ(ParseID3v2(start + end).Genre, 17) << end;
+  }
+  // Behind the last byte that is looked at there are no NULs.
+  EXPECT_EQ(ErrorOf(Header(300) + Nuls(285) + "TPE1" + Nuls(2)), 0);
+  EXPECT_EQ(ErrorOf(Header(300) + Nuls(287) + "TPE1"), 0);
+  EXPECT_EQ(ErrorOf("ID3"), 0);
+}
+
+TEST(ParseID3v2, TagIsNotCopied) {
+  constexpr std::size_t length = std::size_t{64} << 20;
+  void* const memory = mmap(nullptr, length, PROT_READ | PROT_WRITE,
+                            MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+  ASSERT_NE(memory, MAP_FAILED);
+  const std::string start = Header(268435455) + Frame("TPE1", "a");
+  std::memcpy(memory, start.data(), start.size());
+  const std::string_view bytes(static_cast<const char*>(memory), length);
+  EXPECT_EXIT(RunWithLimitedMemory(length / 4, [&] { return ParseID3v2(bytes).Artist == u"a"; }),
+              testing::ExitedWithCode(0), "");
+  munmap(memory, length);
 }
 
 TEST(ParseID3v2, FrameSizes) {
@@ -258,6 +292,20 @@ TEST(ParseID3v2, ByteOrderMarkAnywhereInTheTextRead) {
   EXPECT_FALSE(ParseID3v2(Header(300) + Nuls(290) + Mark).Unicode);
   EXPECT_FALSE(ParseID3v2(Header(20) + Nuls(247) + Mark).Unicode);
   EXPECT_TRUE(ParseID3v2(Header(20) + Nuls(246) + Mark).Unicode);
+  // In the header too, and over its end.
+  EXPECT_TRUE(ParseID3v2("ID3" + Mark + Nuls(5)).Unicode);
+  EXPECT_TRUE(ParseID3v2("ID3" + Nuls(5) + Mark).Unicode);
+  EXPECT_TRUE(ParseID3v2("ID3" + Nuls(6) + Mark + "TPE1").Unicode);
+  EXPECT_FALSE(ParseID3v2(Header(300) + "\xFF").Unicode);
+}
+
+TEST(ParseID3v2, MarkStaysInTheGenre) {
+  const std::string comment = Comment(std::string(30, 'c'));
+  EXPECT_EQ(Parse(comment + Frame("TCON", "(" + Mark + "17)")).Genre, 0);
+  EXPECT_EQ(Parse(comment + Frame("TCON", "(17" + Mark + ")")).Genre, 0);
+  // Of the mark in front the first byte is passed over, and the second isn't a number.
+  EXPECT_EQ(Parse(comment + Frame("TCON", Mark + "(17)")).Genre, 0);
+  EXPECT_EQ(Parse(comment + Frame("TCON", "(17)" + Mark)).Genre, 17);
 }
 
 TEST(ParseID3v2, Utf16WithMark) {

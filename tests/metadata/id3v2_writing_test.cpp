@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "metadata/id3v2_writer.h"
+#include "metadata/in_place.h"
 #include "metadata/tag_reading.h"
 #include "metadata/tag_writing.h"
 #include "support/id3_bytes.h"
@@ -226,7 +227,7 @@ TEST_F(ID3v2Writing, TextTooLongIsShownAndNothingIsTouched) {
   comment.Comment = Text(251, u'c');
   const std::vector<RecordingPrompter::Box> expected = {
       {BoxIcon::Exclamation, u"Error number: 5",
-       u"Invalid procedure call or argument\n\nThe ID3 Tag is probably invalid"}};
+       u"Invalid procedure call or argument\r\n\r\nThe ID3 Tag is probably invalid"}};
   for (const std::string& bytes : {Tag(1000, "") + Audio(500) + OldV1, Audio(500) + OldV1}) {
     for (const ID3Tag* tag : {&artist, &comment}) {
       for (const bool remove : {false, true}) {
@@ -325,6 +326,45 @@ TEST_F(ID3v2Writing, OtherTagOfAHiddenFileIsNotFound) {
   WriteID3v2(services_, u"/m/.a.mp3", Filled(), true);
   EXPECT_EQ(files_.Read(u"/m/.a.mp3"), NewTag() + Audio(500) + OldV1);
   EXPECT_EQ(status_.Stages, Added);
+}
+
+TEST_F(ID3v2Writing, StagesAreShownBeforeAnythingIsWritten) {
+  std::vector<int> percents;
+  status_.OnStatus = [&](int percent) {
+    percents.push_back(percent);
+    EXPECT_EQ(files_.MutationCount > 0, percent == 100) << percent;
+  };
+  for (const std::string& start : {std::string(), Tag(100, ""), Tag(1000, "")}) {
+    for (const bool remove : {false, true}) {
+      After(start + Audio(500) + OldV1, Filled(), remove);
+    }
+  }
+  EXPECT_EQ(percents, (std::vector<int>{33, 66, 100, 33, 66, 100, 50, 100, 33, 66, 100, 50, 100, 33,
+                                        66, 100}));
+}
+
+TEST_F(ID3v2Writing, TagOfSeveralBlocksIsExchangedInOneWrite) {
+  const std::string picture = Frame("APIC", "picture") + Audio(2 * InPlaceBlock);
+  const auto size = static_cast<unsigned>(2 * InPlaceBlock + 1000);
+  for (const std::size_t oldLength : {1, 5, 200}) {
+    const std::string title = Frame("TIT2", std::string(oldLength, 't'));
+    const std::string before = Tag(size, title + picture) + Audio(500) + OldV1;
+    const std::string tag =
+        Padded(Header(size) + Frame("TIT2", "Title") + picture + Frame("TPE1", "Artist") +
+                   Frame("TALB", "Album") + Comment("Note") + Frame("TYER", "1999") +
+                   Frame("TRCK", "07") + Frame("TCON", "(17)"),
+               size);
+    EXPECT_TRUE(After(before, Filled(), false) == tag + Audio(500) + OldV1) << oldLength;
+    EXPECT_EQ(files_.MutationCount, 1U);
+    EXPECT_TRUE(After(before, Filled(), true) == tag + Audio(500)) << oldLength;
+    EXPECT_EQ(files_.MutationCount, 2U);
+    for (const bool remove : {false, true}) {
+      files_.Failure = FailurePlan{.At = remove ? 2U : 1U, .OnlyMutating = true};
+      EXPECT_TRUE(After(before, Filled(), remove) == before) << oldLength;
+      EXPECT_EQ(boxes_.Boxes.size(), 1U);
+      files_.Failure.reset();
+    }
+  }
 }
 
 TEST_F(ID3v2Writing, FailureInTheStagesKeepsTheStatusLine) {

@@ -55,17 +55,46 @@ struct Sample {
   std::string Old;
   InPlaceChange Change;
   std::string New;
+  std::size_t MovedFrom = 0;  // in Old: bytes that come to another place
+  std::size_t MovedTo = 0;
+  bool MovesDown = false;
 };
 
-// The first `replaced` bytes give way to `start`, the last `dropped` bytes go.
-Sample Moving(const char* name, const std::string& old, std::string start, std::size_t replaced,
-              std::size_t dropped) {
+bool Moves(const Sample& sample) {
+  return sample.MovedFrom < sample.MovedTo;
+}
+
+constexpr std::size_t Distance = 16;
+constexpr std::size_t Replaced = 40 - Distance;
+const std::string Head(40, 'h');
+
+// The first bytes give way to more of them, the last `dropped` bytes go.
+Sample Moving(const char* name, const std::string& old, std::size_t dropped) {
   InPlaceChange change;
-  change.NewBytes = std::move(start) + old.substr(replaced, old.size() - replaced - dropped);
+  change.NewBytes = Head;
   change.OldBytes = old;
   change.OldSize = old.size();
-  change.NewSize = change.NewBytes.size();
-  return {name, old, change, change.NewBytes};
+  change.MovedFrom = Replaced;
+  change.MovedLength = old.size() - Replaced - dropped;
+  change.NewSize = change.NewBytes.size() + change.MovedLength;
+  return {name,     old,
+          change,   Head + old.substr(Replaced, change.MovedLength),
+          Replaced, old.size() - dropped};
+}
+
+// A tag in front of the file for another one of its size, whose start is longer or shorter.
+Sample Exchanging(const char* name, std::size_t tag, bool down) {
+  const std::string file = Numbered(tag + 400);
+  const std::string start = down ? Head.substr(0, Replaced - Distance) : Head;
+  std::string bytes = start + file.substr(Replaced, tag - Replaced) + std::string(Distance, 'p');
+  bytes.resize(tag);
+  InPlaceChange change;
+  change.OldSize = file.size();
+  change.NewSize = file.size();
+  change.NewBytes = bytes;
+  change.OldBytes = file.substr(0, tag);
+  return {name, file, change, bytes + file.substr(tag), Replaced, down ? tag : tag - Distance,
+          down};
 }
 
 InPlaceChange ChangeOf(std::uint64_t oldSize, std::uint64_t newSize, std::uint64_t position,
@@ -79,12 +108,9 @@ InPlaceChange ChangeOf(std::uint64_t oldSize, std::uint64_t newSize, std::uint64
   return change;
 }
 
-constexpr std::size_t Distance = 16;
-
 std::vector<Sample> Samples() {
   const std::string large = Numbered(2 * InPlaceBlock + 4000);
   const std::string small = Numbered(400);
-  const std::string head(40, 'h');
   return {
       {"appending", "0123", ChangeOf(4, 7, 4, "abc", ""), "0123abc"},
       {"to an empty file", "", ChangeOf(0, 3, 0, "abc", ""), "abc"},
@@ -94,16 +120,16 @@ std::vector<Sample> Samples() {
       {"all of a short file", "0123", ChangeOf(4, 6, 0, "abcdef", "0123"), "abcdef"},
       {"cutting", "0123456789", ChangeOf(10, 6, 6, "", ""), "012345"},
       {"the start, cutting the end", "0123456789", ChangeOf(10, 8, 0, "ab", "01"), "ab234567"},
-      Moving("moving a small file", small, head, 40 - Distance, 0),
-      Moving("moving a small file, dropping its end", small, head, 40 - Distance, 8),
-      Moving("moving a small file, dropping more than it grows", small, head, 40 - Distance, 128),
-      Moving("moving several blocks", large, head, 40 - Distance, 0),
-      Moving("moving several blocks, dropping the end", large, head, 40 - Distance, 128),
+      Moving("moving a small file", small, 0),
+      Moving("moving a small file, dropping its end", small, 8),
+      Moving("moving a small file, dropping more than it grows", small, 128),
+      Moving("moving several blocks", large, 0),
+      Moving("moving several blocks, dropping the end", large, 128),
+      Exchanging("a small tag, moving up", 400, false),
+      Exchanging("a small tag, moving down", 400, true),
+      Exchanging("a tag larger than two blocks, moving up", 2 * InPlaceBlock + 400, false),
+      Exchanging("a tag larger than two blocks, moving down", 2 * InPlaceBlock + 400, true),
   };
-}
-
-bool Moves(const Sample& sample) {
-  return std::string_view(sample.Name).starts_with("moving");
 }
 
 // The failure's number, 0 if there is none.
@@ -140,10 +166,9 @@ TEST(ChangeInPlace, EndedBetweenAnyTwoCallsLosesNothingThatMoves) {
     MemoryFileSystem files;
     files.Write(Path, sample.Old);
     std::size_t looks = 0;
-    const std::size_t kept = sample.New.size() - 40;
     const auto look = [&] {
       ++looks;
-      EXPECT_EQ(Missing(files.Read(Path), sample.Old, 40 - Distance, 40 - Distance + kept), 0U)
+      EXPECT_EQ(Missing(files.Read(Path), sample.Old, sample.MovedFrom, sample.MovedTo), 0U)
           << sample.Name << ", call " << looks;
     };
     files.BeforeCall = [&](const CallInfo&) { look(); };
@@ -169,23 +194,28 @@ TEST(ChangeInPlace, AnyCallThatFailsOnceLeavesTheFileAsItWas) {
   }
 }
 
-TEST(ChangeInPlace, CallsThatFailFromThenOnCostAtMostOneStretch) {
+// A write that fails has written half of its bytes: as after a kill in the middle of it, if nothing
+// is put back.
+TEST(ChangeInPlace, AWriteCutShortCostsAtMostOneStretchOfWhatMoves) {
   for (const Sample& sample : Samples()) {
-    if (!Moves(sample)) {
-      continue;
-    }
     MemoryFileSystem counted;
     counted.Write(Path, sample.Old);
     Apply(counted, sample.Change);
-    const std::size_t kept = sample.New.size() - 40;
     for (std::size_t call = 1; call <= counted.MutationCount; ++call) {
-      MemoryFileSystem files;
-      files.Write(Path, sample.Old);
-      files.Failure = FailurePlan{.At = call, .FromThenOn = true, .OnlyMutating = true};
-      EXPECT_EQ(Apply(files, sample.Change), 57) << sample.Name << ", call " << call;
-      EXPECT_LE(Missing(files.Read(Path), sample.Old, 40 - Distance, 40 - Distance + kept),
-                Distance / 4)
-          << sample.Name << ", call " << call;
+      for (const bool putsBackHalf : {false, true}) {
+        MemoryFileSystem files;
+        files.Write(Path, sample.Old);
+        files.Failure = FailurePlan{.At = call, .FromThenOn = true, .OnlyMutating = true};
+        files.BeforeCall = [&](const CallInfo& info) {
+          if (!putsBackHalf && info.MutationNumber > call) {
+            throw RunError(ErrorNumber::DeviceError);
+          }
+        };
+        EXPECT_EQ(Apply(files, sample.Change), 57) << sample.Name << ", call " << call;
+        EXPECT_LE(Missing(files.Read(Path), sample.Old, sample.MovedFrom, sample.MovedTo),
+                  sample.MovesDown ? 0 : Distance / 4)
+            << sample.Name << ", call " << call;
+      }
     }
   }
 }
@@ -204,6 +234,50 @@ TEST(ChangeInPlace, FullDiskIsMetBeforeAnythingIsOverwritten) {
         EXPECT_EQ(files.MutationCount, room == 0 ? 1U : 2U) << sample.Name << room;
       }
     }
+  }
+}
+
+TEST(ChangeInPlace, AFailureToPutBackIsNotTheOneThatIsTold) {
+  for (const Sample& sample : Samples()) {
+    MemoryFileSystem files;
+    files.Write(Path, sample.Old);
+    files.Failure = FailurePlan{.OnlyMutating = true, .Error = ErrorNumber::DiskFull};
+    files.BeforeCall = [&](const CallInfo& call) {
+      if (call.MutationNumber == 2) {
+        throw RunError(ErrorNumber::DeviceError);
+      }
+    };
+    EXPECT_EQ(Apply(files, sample.Change), 61) << sample.Name;
+  }
+}
+
+TEST(ChangeInPlace, AFileThatHasChangedItsSizeSinceIsLeftAlone) {
+  for (const Sample& sample : Samples()) {
+    for (const std::string& bytes :
+         {sample.Old + "x", sample.Old.substr(0, sample.Old.size() / 2), sample.New + "x"}) {
+      if (bytes.size() == sample.Old.size()) {
+        continue;
+      }
+      MemoryFileSystem files;
+      files.Write(Path, bytes);
+      EXPECT_EQ(Apply(files, sample.Change), 75) << sample.Name;
+      EXPECT_EQ(files.MutationCount, 0U) << sample.Name;
+      EXPECT_TRUE(files.Read(Path) == bytes) << sample.Name;
+    }
+  }
+}
+
+TEST(ChangeInPlace, AFailureThatComesWithTheClosingIsTold) {
+  for (const Sample& sample : Samples()) {
+    MemoryFileSystem files;
+    files.Write(Path, sample.Old);
+    files.BeforeCall = [&](const CallInfo& call) {
+      if (call.Method == u"Close") {
+        throw RunError(ErrorNumber::DiskFull);
+      }
+    };
+    EXPECT_EQ(Apply(files, sample.Change), 61) << sample.Name;
+    EXPECT_TRUE(files.Read(Path) == sample.New) << sample.Name;
   }
 }
 

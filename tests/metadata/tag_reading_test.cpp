@@ -54,6 +54,7 @@ TEST_F(TagReading, WhatIsNoPlainFileGivesTheEmptyResultSilently) {
                               u"/m/folder.mp3", u"/m/pipe.mp3", u"/m/lost.mp3"}) {
     EXPECT_EQ(ReadID3v1(files_, report_, path), ID3Tag{});
     EXPECT_EQ(ReadID3v2(files_, report_, path), ID3Tag{});
+    EXPECT_EQ(ReadID3Tags(files_, report_, path).V1, ID3Tag{});
     EXPECT_EQ(GetKbit(files_, report_, path), 0);
   }
   EXPECT_TRUE(report_.Reports.empty());
@@ -131,27 +132,75 @@ TEST_F(TagReading, ErrorsOfTheParsersAreReported) {
 }
 
 TEST_F(TagReading, EachOpensTheFileOnceAndReadsNoFurtherThanItMust) {
-  OneFile one(Tag(1000, Frame("TPE1", "a")) + Audio(50000) + V1("t", "a", "l", "", "c", 7, 17));
-  EXPECT_TRUE(ReadID3v2(one, report_, u"/a.mp3").Present);
-  EXPECT_EQ(one.ReadUpTo, 1001U);
-  EXPECT_EQ(one.Opened, 1U);
-
-  OneFile small(Tag(20, "") + Audio(50000));
-  EXPECT_TRUE(ReadID3v2(small, report_, u"/a.mp3").Present);
-  EXPECT_EQ(small.ReadUpTo, 258U);
-
-  OneFile none(Audio(50000));
-  EXPECT_FALSE(ReadID3v2(none, report_, u"/a.mp3").Present);
-  EXPECT_EQ(none.ReadUpTo, 10U);
-  EXPECT_EQ(none.Opened, 1U);
-  none.ReadUpTo = 0;
-  EXPECT_EQ(GetKbit(none, report_, u"/a.mp3"), 0);
-  EXPECT_EQ(none.ReadUpTo, 10003U);
-  EXPECT_EQ(none.Opened, 2U);
-
-  one.Opened = 0;
+  const std::string end = Audio(50000) + V1("t", "a", "l", "", "c", 7, 17);
+  const struct {
+    std::string Bytes;
+    std::size_t Reads;
+    std::size_t ReadUpTo;
+  } cases[] = {
+      {end, 1, 258},
+      {Tag(20, "") + end, 1, 258},
+      {Tag(257, "") + end, 1, 258},
+      {Tag(258, "") + end, 2, 259},
+      {Tag(1000, "") + end, 2, 1001},
+      {Tag(1000, "").substr(0, 700), 2, 700},
+  };
+  for (const auto& [bytes, reads, readUpTo] : cases) {
+    OneFile one(bytes);
+    EXPECT_EQ(ReadID3v2(one, report_, u"/a.mp3").Present, bytes.starts_with("ID3"));
+    EXPECT_EQ(one.Opened, 1U);
+    EXPECT_EQ(one.Reads, reads) << readUpTo;
+    EXPECT_EQ(one.ReadUpTo, readUpTo);
+  }
+  OneFile one(end);
   EXPECT_TRUE(ReadID3v1(one, report_, u"/a.mp3").Present);
   EXPECT_EQ(one.Opened, 1U);
+  EXPECT_EQ(one.Reads, 1U);
+  OneFile none(Audio(50000));
+  EXPECT_EQ(GetKbit(none, report_, u"/a.mp3"), 0);
+  EXPECT_EQ(none.Opened, 1U);
+  EXPECT_EQ(none.Reads, 1U);
+  EXPECT_EQ(none.ReadUpTo, 10003U);
+}
+
+TEST_F(TagReading, BothTagsTakeOneOpening) {
+  OneFile one(Whole);
+  const ID3Tags tags = ReadID3Tags(one, report_, u"/a.mp3");
+  EXPECT_EQ(tags.V1, ReadID3v1(one, report_, u"/a.mp3"));
+  EXPECT_EQ(tags.V2, ReadID3v2(one, report_, u"/a.mp3"));
+  EXPECT_TRUE(tags.V1.Present && tags.V2.Present);
+  one.Opened = 0;
+  one.Reads = 0;
+  ReadID3Tags(one, report_, u"/a.mp3");
+  EXPECT_EQ(one.Opened, 1U);
+  EXPECT_EQ(one.Reads, 3U);
+}
+
+TEST_F(TagReading, EachOfBothTagsFailsByItself) {
+  files_.Write(u"/m/a.mp3", Whole);
+  const std::pair<TextView, bool> reads[] = {{u"ReadID3v1", false}, {u"ReadID3v2", true}};
+  for (const auto& [procedure, firstIsRead] : reads) {
+    int before = 0;
+    files_.BeforeCall = [&, first = firstIsRead](const CallInfo& call) {
+      // The first of the reads is that of the ID3v1 tag.
+      if (call.Method == u"ReadAt" && before++ == (first ? 1 : 0)) {
+        throw RunError(ErrorNumber::DeviceError);
+      }
+    };
+    report_.Reports.clear();
+    const ID3Tags tags = ReadID3Tags(files_, report_, u"/m/a.mp3");
+    EXPECT_EQ(tags.V1.Present, firstIsRead);
+    EXPECT_EQ(tags.V2.Present, !firstIsRead);
+    EXPECT_EQ(report_.Reports,
+              (std::vector<RecordingReport::Report>{{u"", Text(procedure), u"a.mp3", 57}}));
+  }
+  files_.BeforeCall = nullptr;
+  report_.Reports.clear();
+  files_.SetUnreadable(u"/m/a.mp3");
+  EXPECT_EQ(ReadID3Tags(files_, report_, u"/m/a.mp3").V2, ID3Tag{});
+  EXPECT_EQ(report_.Reports,
+            (std::vector<RecordingReport::Report>{{u"", u"ReadID3v1", u"a.mp3", 70},
+                                                  {u"", u"ReadID3v2", u"a.mp3", 70}}));
 }
 
 TEST_F(TagReading, HeaderThatClaimsMoreThanTheFileHoldsIsNotBelieved) {

@@ -8,6 +8,7 @@
 #include "metadata/tag_writing.h"
 #include "platform/posix_file_system.h"
 #include "support/id3_bytes.h"
+#include "support/limited_memory.h"
 #include "support/recording_prompter.h"
 #include "support/recording_report.h"
 #include "support/recording_status_line.h"
@@ -18,6 +19,7 @@ namespace {
 
 using id3::Audio;
 using id3::Frame;
+using id3::Header;
 using id3::Tag;
 using id3::V1;
 
@@ -121,6 +123,20 @@ TEST_F(TagWritingOnDisk, FailedWriteDoesNotTouchTheFile) {
   EXPECT_EQ(report_.Reports.size(), 1U);
   EXPECT_EQ(boxes_.Boxes.size(), 1U);
   EXPECT_FALSE(WasWritten());
+}
+
+TEST_F(TagWritingOnDisk, FileIsHeldInMemoryOnce) {
+  constexpr std::size_t length = std::size_t{32} << 20;
+  for (const std::string& start : {std::string(), Tag(100, ""), Header(length / 2)}) {
+    Put(start + OldV1);
+    ASSERT_EQ(truncate(FilePath().c_str(), length), 0);
+    EXPECT_EXIT(RunWithLimitedMemory(length + length / 4,
+                                     [&] {
+                                       Write(false);
+                                       return boxes_.Boxes.empty() && WasWritten();
+                                     }),
+                testing::ExitedWithCode(0), "");
+  }
 }
 
 TEST_F(TagWritingOnDisk, LinkIsWrittenThrough) {

@@ -154,6 +154,37 @@ TEST(TagWritingFailures, FailedWriteLeavesTheFileAsItWas) {
   }
 }
 
+TEST(TagWritingFailures, FailureThatComesWithTheClosingIsTold) {
+  for (const Way& way : Ways()) {
+    Trial trial(way);
+    trial.Files.BeforeCall = [](const CallInfo& call) {
+      if (call.Method == u"Close") {
+        throw RunError(ErrorNumber::DiskFull);
+      }
+    };
+    trial.Run();
+    EXPECT_TRUE(trial.Complained()) << way.Name;
+    EXPECT_FALSE(trial.IsReady()) << way.Name;
+  }
+}
+
+TEST(TagWritingFailures, FileThatChangesBeforeTheFirstWriteIsLeftAlone) {
+  for (const Way& way : Ways()) {
+    const Result good = Undisturbed(way);
+    const std::string other = way.Before + "x";
+    Trial trial(way);
+    trial.Files.BeforeCall = [&](const CallInfo& call) {
+      // The last look at the file's size comes before its first write and its closing.
+      if (call.Number + good.Mutations + 1 == good.Calls) {
+        trial.Files.Write(Path, other);
+      }
+    };
+    trial.Run();
+    EXPECT_TRUE(trial.Complained()) << way.Name;
+    EXPECT_TRUE(trial.Bytes() == other) << way.Name;
+  }
+}
+
 TEST(TagWritingFailures, FullDiskLeavesTheFileAsItWas) {
   for (const Way& way : Ways()) {
     const Result good = Undisturbed(way);

@@ -348,6 +348,32 @@ TEST_P(FileSystemContract, UseTellsTheStatusToo) {
   EXPECT_EQ(files_.UseOf(u"").Status.Kind, EntryKind::None);
 }
 
+TEST_P(FileSystemContract, AFileThatNobodyHoldsStaysOpenIfThatIsAskedFor) {
+  MakeOneOfEach();
+  disk_->Write(u"held", "content");
+  disk_->Write(u"read-only", "content");
+  disk_->SetReadOnly(u"read-only");
+  const auto holder = files_.Open(P(u"held"), OpenMode::ReadWrite);
+  std::vector<Text> names(std::begin(EachKind), std::end(EachKind));
+  names.insert(names.end(), std::begin(ImpossibleNames), std::end(ImpossibleNames));
+  names.insert(names.end(), {u"held", u"read-only", u"missing", u"file/", u".", u".."});
+  for (const Text& name : names) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    const auto use = files_.UseAndOpen(P(name));
+    const auto known = files_.UseOf(P(name));
+    EXPECT_EQ(use.Status.Kind, known.Status.Kind);
+    EXPECT_EQ(use.Status.ReadOnly, known.Status.ReadOnly);
+    EXPECT_EQ(use.InUse, known.InUse);
+    EXPECT_EQ(known.File, nullptr);
+    ASSERT_EQ(use.File != nullptr, name == u"file" || name == u"link");
+    if (use.File) {
+      EXPECT_EQ(use.File->Size(), 7U);
+      EXPECT_EQ(use.File->ReadAt(1, 3), "ont");
+      EXPECT_NE(FailureOf([&] { use.File->WriteAt(0, "x"); }), 0);
+    }
+  }
+}
+
 TEST_P(FileSystemContract, UseIsntLookedForInHiddenAndReadOnlyFiles) {
   disk_->Write(u".hidden");
   disk_->Write(u"read-only");
@@ -389,6 +415,38 @@ TEST_P(FileSystemContract, OnlyAnExistingFileIsOpened) {
   EXPECT_EQ(disk_->Contents(), before);
 }
 
+TEST_P(FileSystemContract, APlainFileIsOpenedAndNothingElse) {
+  MakeOneOfEach();
+  disk_->Write(u"UNDORENAME.TXT");
+  for (const TextView name : {u"file", u"link"}) {
+    const auto file = files_.OpenPlainFile(P(name));
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->ReadAt(0, 10), "content");
+    EXPECT_NE(FailureOf([&] { file->WriteAt(0, "x"); }), 0);
+  }
+  for (const TextView name : {u"folder", u"dangling", u"other", u".hidden", u"UNDORENAME.TXT",
+                              u"missing", u"missing/deeper", u"file/"}) {
+    EXPECT_EQ(files_.OpenPlainFile(P(name)), nullptr) << testing::PrintToString(name);
+  }
+  EXPECT_EQ(files_.OpenPlainFile(u""), nullptr);
+  for (const Text& name : ImpossibleNames) {
+    EXPECT_EQ(files_.OpenPlainFile(P(name)), nullptr);
+  }
+}
+
+TEST_P(FileSystemContract, AReadOnlyFileIsReadButNotWritten) {
+  disk_->Write(u"file", "content");
+  disk_->MakeLink(u"link", u"file");
+  disk_->SetReadOnly(u"file");
+  const auto before = disk_->Contents();
+  for (const TextView name : {u"file", u"link"}) {
+    EXPECT_EQ(files_.Open(P(name), OpenMode::Read)->ReadAt(0, 7), "content");
+    EXPECT_EQ(FailureOf([&] { files_.Open(P(name), OpenMode::ReadWrite); }), 70);
+  }
+  EXPECT_EQ(FailureOf([&] { files_.AppendToFile(P(u"file"), "x"); }), 70);
+  EXPECT_EQ(disk_->Contents(), before);
+}
+
 TEST_P(FileSystemContract, ReadsAtAnyPosition) {
   disk_->Write(u"file", "0123456789");
   const auto file = files_.Open(P(u"file"), OpenMode::Read);
@@ -426,6 +484,18 @@ TEST_P(FileSystemContract, WritesInPlace) {
   EXPECT_EQ(file->ReadAt(0, 10), std::string("01a\0\0", 5));
   EXPECT_EQ(files_.IdentityOf(P(u"file")), identity);
   EXPECT_EQ(disk_->Contents().count("link@"), 1U);
+}
+
+TEST_P(FileSystemContract, AClosedFileIsNobodysAnyMore) {
+  disk_->Write(u"file", "content");
+  const auto file = files_.Open(P(u"file"), OpenMode::ReadWrite);
+  file->WriteAt(0, "C");
+  EXPECT_TRUE(files_.UseOf(P(u"file")).InUse);
+  file->Close();
+  EXPECT_FALSE(files_.UseOf(P(u"file")).InUse);
+  EXPECT_NE(FailureOf([&] { file->WriteAt(0, "x"); }), 0);
+  EXPECT_NE(FailureOf([&] { file->SetSize(0); }), 0);
+  EXPECT_EQ(files_.ReadFileBytes(P(u"file")), "Content");
 }
 
 TEST_P(FileSystemContract, AFileOpenedForReadingIsntWritten) {

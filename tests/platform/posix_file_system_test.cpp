@@ -51,6 +51,37 @@ TEST(PosixFileSystem, EachErrnoHasItsNumber) {
   }
 }
 
+TEST(PosixFileSystem, EverythingIsWrittenOrThereIsAReason) {
+  // What each call is told to answer, the last one over and over; an errno as a negative number.
+  struct Case {
+    std::vector<int> Answers;
+    int Error;
+    std::string Written;
+  };
+  const Case cases[] = {
+      {{6}, 0, "5:012345 "},
+      {{2}, 0, "5:012345 7:2345 9:45 "},
+      {{-EINTR, 4, -EINTR, 2}, 0, "5:012345 5:012345 9:45 9:45 "},
+      {{1, -EIO}, EIO, "5:012345 6:12345 "},
+      {{-ENOSPC}, ENOSPC, "5:012345 "},
+      {{3, 0}, EIO, "5:012345 8:345 "},
+      {{0}, EIO, "5:012345 "},
+  };
+  for (const Case& c : cases) {
+    std::size_t calls = 0;
+    std::string written;
+    const int error = WriteAll(5, "012345", [&](std::string_view bytes, std::uint64_t position) {
+      written.append(std::to_string(position)).append(":").append(bytes).append(" ");
+      const int answer = c.Answers[std::min(calls, c.Answers.size() - 1)];
+      ++calls;
+      errno = answer < 0 ? -answer : 0;
+      return answer < 0 ? ssize_t{-1} : ssize_t{answer};
+    });
+    EXPECT_EQ(error, c.Error) << written;
+    EXPECT_EQ(written, c.Written);
+  }
+}
+
 TEST(PosixFileSystem, NamesAreTheBytesOnDisk) {
   const TemporaryFolder folder;
   folder.Write("caf\xC3\xA9");

@@ -42,6 +42,18 @@ TEST_F(PosixInUse, OpenForWritingElsewhere) {
   EXPECT_FALSE(IsInUse());
 }
 
+// Whoever reads on must not stand in the way of others meanwhile.
+TEST_F(PosixInUse, AFileThatStaysOpenIsHeldByNobody) {
+  const auto use = files_.UseAndOpen(AsciiText(path_));
+  ASSERT_NE(use.File, nullptr);
+  EXPECT_FALSE(IsInUse());
+  const OtherProcess other([&] {
+    const int descriptor = open(path_.c_str(), O_RDWR | O_NONBLOCK);
+    return descriptor >= 0 && flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+  });
+  EXPECT_TRUE(IsInUse());
+}
+
 TEST_F(PosixInUse, OpenForReadingElsewhere) {
   const OtherProcess reader([&] { return open(path_.c_str(), O_RDONLY) >= 0; });
   EXPECT_FALSE(IsInUse());

@@ -112,6 +112,18 @@ TEST(Preview, AReadOnlyFolderShowsItsMarker) {
   EXPECT_EQ(on.World.Proposed(), (Names{u"<Read Only>"}));
 }
 
+TEST(Preview, OpensAnMp3FileOnce) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/1.mp3", id3::Audio(300) + id3::V1("t", "a", "", "", "", 0, 0));
+  on.World.ListAll(u"/R/");
+  on.World.SelectSteps({u"<ARTIST><EXTONLY>"});
+  on.Disk.ForgetCalls();
+  on.World.PreviewAll();
+  EXPECT_EQ(on.World.Proposed(), (Names{u"a.mp3"}));
+  EXPECT_EQ(on.Disk.Calls,
+            (Names{u"UseOf /R/1.mp3", u"Size /R/1.mp3", u"ReadAt /R/1.mp3", u"ReadAt /R/1.mp3"}));
+}
+
 TEST(Preview, ShowsWhatTheTagsOfAnMp3FileSay) {
   const std::string v1 = id3::V1("Old title", "Old artist", "", "", "", 0, 0);
   const std::string v2 =

@@ -20,6 +20,39 @@ class FakeWindow final : public ClosingWindow {
   NormalPlace Place{.Left = 150, .Top = 300, .Width = 15360, .Height = 7830};
 };
 
+// Notes the calls that make and unmake keys and values.
+class Recorder final : public RegistryCalls {
+ public:
+  RegistryStatus OpenKey(const KeyPlace& key) override { return Note(u"open ", key); }
+  RegistryStatus CreateKey(const KeyPlace& key, KeyDisposition& disposition) override {
+    disposition = KeyDisposition::Created;
+    Note(u"create ", key);
+    return RegistryStatus::Done;
+  }
+  RegistryStatus DeleteKey(const KeyPlace& key) override { return Note(u"delete ", key); }
+  std::vector<Text> SubkeysOf(const KeyPlace&) override { return {}; }
+  std::vector<Text> ValuesOf(const KeyPlace&) override { return {}; }
+  RegistryStatus QueryValue(const KeyPlace&, TextView, RegistryValue&) override {
+    return RegistryStatus::NotFound;
+  }
+  RegistryStatus SetValue(const KeyPlace& key, TextView name, const RegistryValue& value) override {
+    Calls.push_back(u"set " + Place(key) + u"|" + Text(name) + u"|" + std::get<Text>(value));
+    return RegistryStatus::Done;
+  }
+  RegistryStatus DeleteValue(const KeyPlace&, TextView) override { return RegistryStatus::Done; }
+
+  std::vector<Text> Calls;
+
+ private:
+  static Text Place(const KeyPlace& key) {
+    return (key.Root == RegistryRoot::ClassesRoot ? u"HKCR\\" : u"HKCU\\") + key.Path;
+  }
+  RegistryStatus Note(TextView call, const KeyPlace& key) {
+    Calls.push_back(Text(call) + Place(key));
+    return RegistryStatus::NotFound;
+  }
+};
+
 class ShutDownTest : public testing::Test, protected SettingsWorld {
  protected:
   ShutDownTest() {
@@ -172,40 +205,15 @@ TEST_F(ShutDownTest, AWindowThatFailsKeepsNothingElse) {
   EXPECT_FALSE(World.Disk.Exists(u"/R/UNDORENAME.TXT"));
 }
 
+TEST_F(ShutDownTest, WithoutAProgramFileNoRegistryIsTouched) {
+  Recorder calls;
+  vorlane::Registry registry(calls, Boxes);
+  SaveSettingsAtExit(State, Window, {World.Disk, Settings, registry}, u"");
+  EXPECT_TRUE(calls.Calls.empty());
+}
+
 // The keys and the order of the calls, as a registry sees them.
 TEST_F(ShutDownTest, TheVerbGoesUnderBothRoots) {
-  class Recorder final : public RegistryCalls {
-   public:
-    RegistryStatus OpenKey(const KeyPlace& key) override { return Note(u"open ", key); }
-    RegistryStatus CreateKey(const KeyPlace& key, KeyDisposition& disposition) override {
-      disposition = KeyDisposition::Created;
-      Note(u"create ", key);
-      return RegistryStatus::Done;
-    }
-    RegistryStatus DeleteKey(const KeyPlace& key) override { return Note(u"delete ", key); }
-    std::vector<Text> SubkeysOf(const KeyPlace&) override { return {}; }
-    std::vector<Text> ValuesOf(const KeyPlace&) override { return {}; }
-    RegistryStatus QueryValue(const KeyPlace&, TextView, RegistryValue&) override {
-      return RegistryStatus::NotFound;
-    }
-    RegistryStatus SetValue(const KeyPlace& key, TextView name,
-                            const RegistryValue& value) override {
-      Calls.push_back(u"set " + Place(key) + u"|" + Text(name) + u"|" + std::get<Text>(value));
-      return RegistryStatus::Done;
-    }
-    RegistryStatus DeleteValue(const KeyPlace&, TextView) override { return RegistryStatus::Done; }
-
-    std::vector<Text> Calls;
-
-   private:
-    static Text Place(const KeyPlace& key) {
-      return (key.Root == RegistryRoot::ClassesRoot ? u"HKCR\\" : u"HKCU\\") + key.Path;
-    }
-    RegistryStatus Note(TextView call, const KeyPlace& key) {
-      Calls.push_back(Text(call) + Place(key));
-      return RegistryStatus::NotFound;
-    }
-  };
   Recorder calls;
   vorlane::Registry registry(calls, Boxes);
   WriteVerb(registry, u"/opt/vorlane");

@@ -110,6 +110,7 @@ TEST_F(StoredRegistryTest, SeesWhatOthersChange) {
 }
 
 TEST_F(StoredRegistryTest, SeesItsOwnChanges) {
+  file_.StampStands = true;
   Create(User(u"A"));
   for (const TextView text : {u"1", u"2", u"3"}) {
     calls_.SetValue(User(u"A"), u"Name", Text(text));

@@ -64,10 +64,11 @@ TEST_F(StoredValuesTest, WhatIsNo16BitNumberIsLeftOut) {
 }
 
 TEST_F(StoredValuesTest, AWindowWithoutAPlaceLeavesTheStoredOne) {
-  SavePlacement(Settings, {.Left = 150, .Top = 45, .Width = 15360, .Height = 7830});
+  Set(u"Left", u"77");
+  Set(u"Top", u"45");
   SavePlacement(Settings, {.Width = 16000, .Height = 8000});
   EXPECT_EQ(StoredPlacement(Settings),
-            (WindowPlacement{.Left = 150, .Top = 45, .Width = 16000, .Height = 8000}));
+            (WindowPlacement{.Left = 77, .Top = 45, .Width = 16000, .Height = 8000}));
 }
 
 TEST_F(StoredValuesTest, OnlyOneIsMaximized) {

@@ -97,6 +97,7 @@ TEST_F(VerbRegistryTest, TheSystemsVerbIsDeniedAndQuiet) {
   EXPECT_EQ(registry_.SetKeyValue(System, command, u"", VerbCommand(u"/w"), RegistryType::String),
             Denied);
   EXPECT_FALSE(registry_.DeleteKey(System, VerbKey(System), true));
+  EXPECT_FALSE(registry_.KeyExists(System, VerbKey(User)));
   EXPECT_EQ(verb_.Program, u"/v");
   EXPECT_TRUE(boxes_.Boxes.empty());
 }

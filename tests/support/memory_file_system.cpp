@@ -157,12 +157,12 @@ EntryUse MemoryFileSystem::UseOf(TextView path) {
 class MemoryFileSystem::Handle final : public OpenFile {
  public:
   Handle(MemoryFileSystem& files, MemoryNodePointer node, TextView path, OpenMode mode)
-      : files_(files), node_(std::move(node)), path_(path), mode_(mode) {
-    node_->Writers += mode_ == OpenMode::ReadWrite ? 1 : 0;
+      : files_(files), node_(std::move(node)), path_(path), isWriter_(mode == OpenMode::ReadWrite) {
+    node_->Writers += isWriter_ ? 1 : 0;
   }
   Handle(const Handle&) = delete;
   Handle& operator=(const Handle&) = delete;
-  ~Handle() override { node_->Writers -= mode_ == OpenMode::ReadWrite ? 1 : 0; }
+  ~Handle() override { node_->Writers -= isWriter_ ? 1 : 0; }
 
   std::uint64_t Size() override {
     if (!files_.Query(u"Size", path_)) {
@@ -199,9 +199,16 @@ class MemoryFileSystem::Handle final : public OpenFile {
     node_->Bytes.resize(size);
   }
 
+  void Close() override {
+    node_->Writers -= std::exchange(isWriter_, false) ? 1 : 0;
+    if (!files_.Query(u"Close", path_)) {
+      files_.ThrowPlanned();
+    }
+  }
+
  private:
   void RequireWriting() const {
-    if (mode_ == OpenMode::Read) {
+    if (!isWriter_) {
       throw RunError(ErrorNumber::PathAccess);
     }
   }
@@ -222,8 +229,19 @@ class MemoryFileSystem::Handle final : public OpenFile {
   MemoryFileSystem& files_;
   MemoryNodePointer node_;
   Text path_;
-  OpenMode mode_;
+  bool isWriter_;  // until it is closed
 };
+
+EntryUse MemoryFileSystem::UseAndOpen(TextView path) {
+  EntryUse use = UseOf(path);
+  const auto node = tree_.Resolve(path);
+  const EntryStatus& status = use.Status;
+  if (status.Kind == EntryKind::File && !status.Hidden && !status.ReadOnly && !use.InUse &&
+      !node->Unreadable) {
+    use.File = std::make_unique<Handle>(*this, node, path, OpenMode::Read);
+  }
+  return use;
+}
 
 MemoryNodePointer MemoryFileSystem::ReadableFile(TextView path) const {
   const auto node = tree_.Resolve(path);

@@ -24,7 +24,8 @@ namespace vorlane {
 enum class LetterCase { Matters, Ignored };
 
 struct CallInfo {
-  Text Method;  // as in FileSystem, or "Size", "ReadAt", "WriteAt", "SetSize" of an open file
+  Text Method;  // as in FileSystem, or "Size", "ReadAt", "WriteAt", "SetSize", "Close" of an open
+                // file
   Text Path;
   Text Target;                     // of a rename
   bool Mutating = false;           // the call is meant to change something
@@ -105,6 +106,7 @@ class MemoryFileSystem final : public FileSystem {
   std::vector<Text> ListNames(TextView folder) override;
   std::optional<FileTimes> TimesOf(TextView path) override;
   EntryUse UseOf(TextView path) override;
+  EntryUse UseAndOpen(TextView path) override;
   std::string ReadFileBytes(TextView path) override;
   std::unique_ptr<OpenFile> Open(TextView path, OpenMode mode) override;
   RenameOutcome RenameNoReplace(TextView from, TextView to) override;

@@ -17,7 +17,8 @@ class OneFile final : public FileSystem {
   std::string Bytes;
   std::size_t LargestRead = static_cast<std::size_t>(-1);  // a longer one runs out of memory
   std::size_t Opened = 0;
-  std::size_t ReadUpTo = 0;  // the end of the furthest read that was asked for
+  std::size_t Reads = 0;
+  std::size_t ReadUpTo = 0;  // the end of the furthest read
 
   EntryStatus StatusOf(TextView) override { return {EntryKind::File, false, false, Bytes.size()}; }
 
@@ -51,11 +52,15 @@ class OneFile final : public FileSystem {
       if (length > owner_.LargestRead) {
         throw std::bad_alloc();
       }
-      owner_.ReadUpTo = std::max(owner_.ReadUpTo, static_cast<std::size_t>(position) + length);
+      ++owner_.Reads;
+      owner_.ReadUpTo =
+          std::max(owner_.ReadUpTo,
+                   std::min(owner_.Bytes.size(), static_cast<std::size_t>(position) + length));
       return owner_.Bytes.substr(std::min<std::size_t>(position, owner_.Bytes.size()), length);
     }
     void WriteAt(std::uint64_t, std::string_view) override { throw std::logic_error("WriteAt"); }
     void SetSize(std::uint64_t) override { throw std::logic_error("SetSize"); }
+    void Close() override { throw std::logic_error("Close"); }
 
    private:
     OneFile& owner_;
