@@ -1,10 +1,13 @@
 // vorlane: the window. One argument, a folder to start in; or "/Uninstall".
 #include <QApplication>
 
+#include "net/stored_proxy.h"
 #include "platform/file_name_bytes.h"
 #include "platform/program_folder.h"
+#include "platform/program_version.h"
 #include "platform/user_folders.h"
 #include "shell/start_up.h"
+#include "ui/about_box.h"
 #include "ui/application_look.h"
 #include "ui/desktop_services.h"
 #include "ui/fade_out.h"
@@ -40,6 +43,18 @@ int RunWindow(QApplication& app, const Text& commandLine) {
   Program program(services.ForProgram(), {});
   FrmMain& window = program.Window();
   prompts.SetParent(&window);
+  OvWinsock sockets;
+  StoredProxy proxy(services.Registry);
+  AboutBox about({program.Gate(), sockets, proxy, services.Time, program.Loop(), prompts,
+                  [&sockets] { return sockets.IsConnected(); }, OpenInBrowser},
+                 {.Version = VersionText()}, &window);
+  about.OnExit = [&] { program.Close(); };
+  program.OnHelp = [&] {
+    about.show();
+    about.raise();
+    about.activateWindow();
+  };
+  program.OnCloseAsked = [&] { about.EndCheck(); };
   bool fades = true;
   program.OnClosing = [&] {
     UnloadMainWindow(program, services);

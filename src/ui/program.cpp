@@ -124,6 +124,11 @@ void Program::ConnectButtons() {
   connect(controls.Stop, [this] { Stop(); });
   connect(controls.Undo, [this] { Undo(); });
   connect(controls.Exit, [this] { Close(); });
+  connect(controls.Help, [this] {
+    if (OnHelp) {
+      OnHelp();
+    }
+  });
   for (QPushButton* button : {controls.DoOne, controls.DoAll}) {
     connect(button, [this] { gate_.Start([this] { events_.cmdDoAllOrOne_Click(); }); });
   }
@@ -288,6 +293,9 @@ void Program::Undo() {
 bool Program::MayClose() {
   if (closed_) {
     return true;
+  }
+  if (OnCloseAsked) {
+    OnCloseAsked();
   }
   const bool isBusy = !gate_.IsIdle() || QApplication::activeModalWidget() != nullptr;
   if (isBusy || !shown_) {

@@ -71,6 +71,14 @@ class Program {
   WindowTimers& Timers() { return timers_; }
   EventGate& Gate() { return gate_; }
 
+  MessageLoop& Loop() { return loop_; }
+
+  // cmdHelp.
+  std::function<void()> OnHelp;
+
+  // The window is asked to close: whatever else waits for something ends its wait.
+  std::function<void()> OnCloseAsked;
+
   // What is to be done before the window goes. Once.
   std::function<void()> OnClosing;
 

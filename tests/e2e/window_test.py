@@ -30,6 +30,7 @@ CATALOGUE = (
 GO = (915, 430)
 UNDO = (985, 209)
 EXIT = (982, 70)
+HELP = (985, 137)
 DO_ONE = (502, 30)
 BOX_1 = (300, 410)
 WILDCARD = (715, 28)
@@ -53,7 +54,7 @@ class Display:
         read, write = os.pipe()
         self.server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp"],
-            pass_fds=[write], stderr=subprocess.DEVNULL)
+            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as number:
             self.name = ":" + number.readline().strip()
@@ -65,7 +66,11 @@ class Display:
         return dict(os.environ, DISPLAY=self.name)
 
     def run(self, *command):
-        return subprocess.run(command, env=self.environment(), capture_output=True, text=True)
+        try:
+            return subprocess.run(command, env=self.environment(), capture_output=True, text=True,
+                                  timeout=PATIENCE)
+        except subprocess.TimeoutExpired:
+            raise AssertionError(f"{command} didn't end") from None
 
     def close(self):
         for process in (self.manager, self.server):
@@ -233,6 +238,18 @@ class WindowTest(unittest.TestCase):
         self.start(self.files)
         self.click(EXIT)
         self.assertEqual(self.ended(), 0)
+
+    def test_help_opens_the_about_box(self):
+        self.start(self.files)
+        self.click(HELP)
+        box = wait_for(lambda: self.display.run("xdotool", "search", "--onlyvisible", "--name",
+                                                TITLE + " - About").stdout.split(), "the About box")[0]
+        self.display.run("xdotool", "windowactivate", "--sync", box)
+        self.keys("Escape")
+        wait_for(lambda: not self.display.run("xdotool", "search", "--onlyvisible", "--name",
+                                              TITLE + " - About").stdout, "the end of the box")
+        self.display.run("xdotool", "windowactivate", "--sync", self.window)
+        self.close()
 
     def test_sigterm_ends_in_good_order(self):
         self.start(self.files)
