@@ -50,7 +50,7 @@ ExitStatus ListOperations(const Arguments& arguments) {
     if (arguments.AsJson) {
       document.push_back(NodeJson(node, code));
     } else {
-      const auto indent = static_cast<std::size_t>(2 * (node.Depth - 1));
+      const auto indent = 2 * static_cast<std::size_t>(node.Depth - 1);
       std::cout << node.Index << '\t' << std::string(indent, ' ') << DisplayUtf8(node.Title)
                 << (code.empty() ? ":" : "") << '\n';
     }
