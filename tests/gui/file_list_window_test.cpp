@@ -154,25 +154,19 @@ TEST_F(FileListWindowTest, AControlCharacterBreaksNoRow) {
 }
 
 TEST_F(FileListWindowTest, TheFocusStaysWhereTheUserWentWhileTheListWasHidden) {
-  WriteFiles(600);
-  World.Open(World.Folder.Path());
   World.Main.Window().activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&World.Main.Window()));
-  List().setFocus();
   auto& box = World.Find<QComboBox>("cboWildCard");
-  struct Watch : QObject {
-    QWidget* Target;
-    bool eventFilter(QObject*, QEvent* event) override {
-      if (event->type() == QEvent::Hide) {
-        QTimer::singleShot(0, Target, [target = Target] { target->setFocus(); });
-      }
-      return false;
-    }
-  } watch;
-  watch.Target = &box;
-  List().installEventFilter(&watch);
-  QTest::keyClick(&List(), Qt::Key_F5);
+  FormView& view = World.Main.State().View;
+  List().setFocus();
+  view.ListHidden(true);
+  box.setFocus();
+  view.ListHidden(false);
   EXPECT_TRUE(box.hasFocus());
+  List().setFocus();
+  view.ListHidden(true);
+  view.ListHidden(false);
+  EXPECT_TRUE(List().hasFocus());
 }
 
 TEST_F(FileListWindowTest, AnMp3ShowsItsTagsWhenItIsClicked) {

@@ -98,8 +98,8 @@ TEST(ProgramPath, HasAFolder) {
 class StartFolderTest : public testing::Test, protected SettingsWorld {
  protected:
   StartFolderTest() {
-    for (const TextView folder : {u"/music/rock/", u"/saved/", u"/program/", u"/work/-rf/",
-                                  u"/work/a b/", u"/work/.hidden/"}) {
+    for (const TextView folder : {u"/music/rock/", u"/saved/", u"/program/", u"/here/-rf/",
+                                  u"/here/a b/", u"/here/.hidden/"}) {
       Disk.MakeFolder(folder);
     }
     Disk.Write(u"/music/song.mp3");
@@ -108,7 +108,7 @@ class StartFolderTest : public testing::Test, protected SettingsWorld {
 
   Text Choose(TextView commandLine) {
     return ChooseStartFolder(Disk, Settings, commandLine,
-                             {.WorkingFolder = u"/work/", .ProgramFolder = u"/program"},
+                             {.WorkingFolder = u"/here/", .ProgramFolder = u"/program"},
                              PathStyle::Posix);
   }
 
@@ -124,10 +124,10 @@ TEST_F(StartFolderTest, TheCommandLineComesFirst) {
 }
 
 TEST_F(StartFolderTest, ARelativeCommandLineIsMadeRooted) {
-  EXPECT_EQ(Choose(u"a b"), u"/work/a b/");
-  EXPECT_EQ(Choose(u"-rf"), u"/work/-rf/");
-  EXPECT_EQ(Choose(u".hidden"), u"/work/.hidden/");
-  EXPECT_EQ(Choose(u"."), u"/work/");
+  EXPECT_EQ(Choose(u"a b"), u"/here/a b/");
+  EXPECT_EQ(Choose(u"-rf"), u"/here/-rf/");
+  EXPECT_EQ(Choose(u".hidden"), u"/here/.hidden/");
+  EXPECT_EQ(Choose(u"."), u"/here/");
   EXPECT_EQ(Choose(u".."), u"/");
   EXPECT_EQ(Choose(u"../music/./rock"), u"/music/rock/");
 }
