@@ -31,10 +31,6 @@ const TwipsRect& MainFormLayout::PlaceOf(std::string_view name, int index) const
   return const_cast<MainFormLayout*>(this)->Find(name, index).Place;
 }
 
-void MainFormLayout::SetPlace(std::string_view name, const TwipsRect& place) {
-  Find(name).Place = place;
-}
-
 void MainFormLayout::InitResizeTags() {
   distances_.clear();
   for (const FormControlPlace& control : controls_) {

@@ -17,7 +17,6 @@ class MainFormLayout {
 
   const std::vector<FormControlPlace>& Controls() const { return controls_; }
   const TwipsRect& PlaceOf(std::string_view name, int index = -1) const;
-  void SetPlace(std::string_view name, const TwipsRect& place);
 
   // Size of the form's client area.
   Twips Width() const { return width_; }
