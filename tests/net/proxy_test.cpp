@@ -83,7 +83,7 @@ TEST(Proxy, VariableInLowerCaseOnly) {
     const EnvironmentVariable lower("http_proxy", "http://lower:2");
     EXPECT_EQ(sources.ProxySources::HttpProxy(), Text(u"http://lower:2"));
   }
-  for (const char* unset : {"", static_cast<const char*>(nullptr)}) {
+  for (const auto& unset : {std::optional<std::string>(), std::optional<std::string>("")}) {
     const EnvironmentVariable lower("http_proxy", unset);
     EXPECT_EQ(sources.ProxySources::HttpProxy(), std::nullopt);
   }
