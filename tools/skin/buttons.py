@@ -37,20 +37,21 @@ class Face:
         self.outline(shape, inset)
         return shape
 
-    def paint(self, colour, light=0.16, dark=0.14):
-        high, low = mix(colour, WHITE, light), mix(colour, BLACK, dark)
+    def paint(self, colour, light=0.16, glow=None, ring=1.0, depth=0.42):
+        """`glow`: the ring of the hover state, `ring` its width; `depth`: how dark it is sunk."""
+        high, low = mix(colour, WHITE, light), mix(colour, BLACK, 0.14)
         if self.state == HOVER:
-            high, low = mix(high, WHITE, 0.22), mix(low, WHITE, 0.18)
+            high, low = mix(high, WHITE, 0.2), mix(low, WHITE, 0.16)
         if self.state == PRESSED:
-            high, low = mix(colour, BLACK, 0.42), mix(colour, BLACK, 0.24)
+            high, low = mix(colour, BLACK, depth), mix(colour, BLACK, depth * 0.6)
         size, rows = self.strip.size, (OPEN_ROWS, self.strip.height - OPEN_ROWS)
         rim = gradient(size, mix(high, WHITE, 0.35), mix(low, BLACK, 0.25), *rows)
         if self.state == PRESSED:
-            rim = gradient(size, mix(high, BLACK, 0.45), mix(low, WHITE, 0.12), *rows)
+            rim = gradient(size, mix(high, BLACK, 0.45), mix(low, WHITE, 0.18), *rows)
         if self.state == HOVER:
-            rim = gradient(size, mix(high, WHITE, 0.75), mix(low, WHITE, 0.55), *rows)
+            rim = gradient(size, glow or mix(high, WHITE, 0.8), glow or mix(low, WHITE, 0.6), *rows)
         paint(self.strip, self.shape(), rim)
-        paint(self.strip, self.shape(2 if self.state == HOVER else 1),
+        paint(self.strip, self.shape(ring if self.state == HOVER else 1),
               gradient(size, high, low, *rows))
 
 
@@ -86,10 +87,10 @@ def disc_outline(shape, inset):
     shape.disc(width / 2, height / 2, radius - inset)
 
 
-def large_button(colour, outline, draw, scale, glyph_colour, light=0.16):
+def large_button(colour, outline, draw, scale, glyph_colour, **face):
     """A button with one face and one pictogram in its middle."""
     def strip(picture, state):
-        Face(picture, outline, state).paint(colour, light)
+        Face(picture, outline, state).paint(colour, ring=1.6, **face)
         width, height = picture.size
         sunk = 1 if state == PRESSED else 0
         shown = mix(glyph_colour, WHITE, 0.3) if state == HOVER and sum(glyph_colour) > 380 \
@@ -134,12 +135,13 @@ def switch(left_glyph, right_glyph, right):
 
 
 SLATE = (68, 87, 108)
+QUIET = {"light": 0.08, "glow": ACCENT, "depth": 0.62}
 DRAWINGS = {
-    "Go": large_button(ACCENT, round_outline(13), glyphs.play, 1.55, GLYPH_DARK),
-    "Stop": large_button(ALARM, octagon_outline(15), glyphs.stop, 1.3, GLYPH_DARK),
-    "Help": large_button(SLATE, disc_outline, glyphs.question, 1.15, GLYPH_LIGHT, 0.08),
-    "Undo": large_button(SLATE, disc_outline, glyphs.back, 1.1, GLYPH_LIGHT, 0.08),
-    "Exit": large_button(SLATE, disc_outline, glyphs.leave, 0.95, GLYPH_LIGHT, 0.08),
+    "Go": large_button(ACCENT, round_outline(13), glyphs.play, 1.8, GLYPH_DARK),
+    "Stop": large_button(ALARM, octagon_outline(15), glyphs.stop, 1.5, GLYPH_DARK),
+    "Help": large_button(SLATE, disc_outline, glyphs.question, 1.15, GLYPH_LIGHT, **QUIET),
+    "Undo": large_button(SLATE, disc_outline, glyphs.back, 1.1, GLYPH_LIGHT, **QUIET),
+    "Exit": large_button(SLATE, disc_outline, glyphs.leave, 0.95, GLYPH_LIGHT, **QUIET),
     "ListFiles": switch(glyphs.document, glyphs.folder, False),
     "ListFolders": switch(glyphs.document, glyphs.folder, True),
     "ThisFolderOnly": switch(glyphs.folder, glyphs.folder_tree, False),

@@ -14,7 +14,7 @@ BOTTOM_BAR = (12, 363, 949, 130)
 
 # The plate reaches to the corner of the window: the title above it doesn't move when the window is
 # stretched, but the plate does.
-PLATE_RIGHT, PLATE_BOTTOM = 217, 43
+PLATE_EDGE, PLATE_BOTTOM = 247, 42
 
 
 def smooth(start, end, value):
@@ -26,8 +26,8 @@ def smooth(start, end, value):
 def background_level(x, y):
     """The background at a place, as a number on the ramp."""
     base = 84 - 40 * smooth(0, 522, y)
-    down = 1 - smooth(PLATE_BOTTOM, 300, y)
-    across = 1 - smooth(PLATE_RIGHT + 3, 262, x)
+    down = 1 - 0.55 * smooth(PLATE_BOTTOM, 70, y) - 0.45 * smooth(60, 330, y)
+    across = 1 - smooth(PLATE_EDGE - 1, PLATE_EDGE + 1, x + 0.5)
     return base + (PLATE - base) * across * down
 
 
@@ -64,13 +64,13 @@ def card(ground, x, y, box, radius, face):
 def top_bar_level(x, y):
     """The top bar at a place of its picture: a card as wide as the list with a margin."""
     ground = background_level(TOP_BAR[0] + x, TOP_BAR[1] + y)
-    return card(ground, x, y, (0, 0, 699, 33), 10, 128 - 10 * smooth(0, 33, y))
+    return card(ground, x, y, (0, 0, 700, 33), 10, 128 - 10 * smooth(0, 33, y))
 
 
 def bottom_bar_level(x, y):
     """The bottom bar at a place of its picture: the card under operations, boxes and Go."""
     ground = background_level(BOTTOM_BAR[0] + x, BOTTOM_BAR[1] + y)
-    return card(ground, x, y, (2, 2, 947, 126), 12, 128 - 14 * smooth(0, 130, y))
+    return card(ground, x, y, (2, 2, 943, 126), 12, 128 - 14 * smooth(0, 130, y))
 
 
 def picture_of(width, height, level, ground=None):
