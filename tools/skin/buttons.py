@@ -78,6 +78,9 @@ def octagon_outline(corner):
         shape.polygon(((left + cut, top), (right - cut, top), (right, top + cut),
                        (right, bottom - cut), (right - cut, bottom), (left + cut, bottom),
                        (left, bottom - cut), (left, top + cut)))
+        # The pen of polygons reaches a little over their edges.
+        shape.box(0, 0, width, top, cut=True)
+        shape.box(0, bottom, width, height, cut=True)
     return outline
 
 

@@ -28,8 +28,8 @@ def star(shape, scale):
 
 
 def cross(shape, scale):
-    shape.line([(2.5 * scale, 2.5 * scale), (9.5 * scale, 9.5 * scale)], 2.2 * scale)
-    shape.line([(9.5 * scale, 2.5 * scale), (2.5 * scale, 9.5 * scale)], 2.2 * scale)
+    shape.line([(2.5 * scale, 2.5 * scale), (9.5 * scale, 9.5 * scale)], 2.9 * scale)
+    shape.line([(9.5 * scale, 2.5 * scale), (2.5 * scale, 9.5 * scale)], 2.9 * scale)
 
 
 def folder(shape, scale):
