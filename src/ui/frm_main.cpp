@@ -31,7 +31,7 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
+FrmMain::FrmMain(const EasyButtonServices& services) : controls_(*this, services) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
   for (const FormControlPlace& control : layout_.Controls()) {

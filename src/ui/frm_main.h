@@ -12,7 +12,7 @@ namespace vorlane {
 
 class FrmMain final : public QWidget {
  public:
-  explicit FrmMain(FileSystem& files);
+  explicit FrmMain(const EasyButtonServices& services);
 
   FormControls& Controls() { return controls_; }
 
