@@ -45,8 +45,8 @@ void Describe(const Description& description) {
 }  // namespace
 
 FormControls::FormControls(QWidget& form, FileSystem& files)
-    : TopBar(MakeLabel(form)),
-      BottomBar(MakeLabel(form)),
+    : TopBar(new ImageBar(&form)),
+      BottomBar(new ImageBar(&form)),
       Title(MakeLabel(form)),
       Browse(new QFrame(&form)),
       Folders(new FolderTreeView(Browse, files)),

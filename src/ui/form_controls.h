@@ -13,6 +13,7 @@
 #include "form/option_box.h"
 #include "ui/file_list_view.h"
 #include "ui/folder_tree_view.h"
+#include "ui/image_bar.h"
 #include "ui/operations_view.h"
 
 namespace vorlane {
@@ -30,8 +31,8 @@ struct FormControls {
   // The folder tree reads that disk.
   FormControls(QWidget& form, FileSystem& files);
 
-  QLabel* TopBar;
-  QLabel* BottomBar;
+  ImageBar* TopBar;
+  ImageBar* BottomBar;
   QLabel* Title;
   QFrame* Browse;
   FolderTreeView* Folders;  // inside Browse
