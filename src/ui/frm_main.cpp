@@ -33,7 +33,8 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain(FileSystem& files) : controls_(*this, files), background_(files), grip_(*this) {
+FrmMain::FrmMain(const EasyButtonServices& services)
+    : controls_(*this, services), background_(services.Files), grip_(*this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
   setMouseTracking(true);

@@ -14,7 +14,7 @@ namespace vorlane {
 
 class FrmMain final : public QWidget {
  public:
-  explicit FrmMain(FileSystem& files);
+  explicit FrmMain(const EasyButtonServices& services);
 
   FormControls& Controls() { return controls_; }
   FormBackground& Background() { return background_; }

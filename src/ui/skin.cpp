@@ -29,6 +29,17 @@ ImageBar& Skin::Bar(const SkinFile& file) {
   return *window_.findChild<ImageBar*>(QLatin1String(file.Control.data()));
 }
 
+EasyButton& Skin::Button(std::string_view name) {
+  return *window_.findChild<EasyButton*>(QLatin1String(name.data()));
+}
+
+// The button takes its size from the picture.
+void Skin::ShowOnButton(std::string_view name, const QImage& picture) {
+  EasyButton& button = Button(name);
+  button.SetPicture(picture);
+  window_.Layout().SetControlSize(name, {TwipsOf(button.width()), TwipsOf(button.height())});
+}
+
 bool Skin::ApplySkinPictures() {
   const bool isWhole =
       std::ranges::all_of(SkinFiles, [this](const SkinFile& file) { return ShowPicture(file); });
@@ -53,6 +64,8 @@ bool Skin::ShowPicture(const SkinFile& file) {
     Bar(file).SetPicture(picture);
     window_.Layout().SetControlSize(file.Control,
                                     {TwipsOf(picture.width()), TwipsOf(picture.height())});
+  } else {
+    ShowOnButton(file.Control, picture);
   }
   return true;
 }
@@ -68,7 +81,13 @@ void Skin::ApplySkinScaled(int resolutionX, int resolutionY) {
   window_.Background().Show(window_.size());
 }
 
-void Skin::AssignSounds() {}
+void Skin::AssignSounds() {
+  for (const SkinSound& sound : SkinSounds) {
+    if (const auto path = FindProgramFile(files_, soundsPath_, sound.FileName)) {
+      Button(sound.Control).SetSoundFileName(*path);
+    }
+  }
+}
 
 void Skin::ShowScaled(const SkinFile& file, ScaleFactors factors) {
   const auto path = FindProgramFile(files_, skinPath_, file.FileName);
@@ -76,12 +95,12 @@ void Skin::ShowScaled(const SkinFile& file, ScaleFactors factors) {
     return;
   }
   MainFormLayout& layout = window_.Layout();
-  QImage picture = LoadPicture(files_, *path);
+  const QImage picture = LoadPicture(files_, *path);
   if (file.Target == SkinTarget::Bar) {
     Bar(file).SetPicture(picture);
     layout.ScaleControlSize(file.Control, factors);
-  } else {
-    picture = ScalePicture(picture, factors);
+  } else if (const QImage scaled = ScalePicture(picture, factors); !scaled.isNull()) {
+    ShowOnButton(file.Control, scaled);
   }
   layout.ScaleControlPosition(file.Control, factors);
 }

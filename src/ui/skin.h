@@ -29,7 +29,9 @@ class Skin {
   bool ShowPicture(const SkinFile& file);
   void ShowScaled(const SkinFile& file, ScaleFactors factors);
   QImage Load(const SkinFile& file);
+  void ShowOnButton(std::string_view name, const QImage& picture);
   ImageBar& Bar(const SkinFile& file);
+  EasyButton& Button(std::string_view name);
 
   FrmMain& window_;
   FileSystem& files_;
