@@ -13,6 +13,7 @@
 #include "ui/desktop_services.h"
 #include "ui/fade_out.h"
 #include "ui/main_window_load.h"
+#include "ui/program_icons.h"
 #include "ui/qt_text.h"
 #include "ui/stop_signal.h"
 #include "ui/uninstall.h"
@@ -94,5 +95,6 @@ int main(int argc, char** argv) {
     qunsetenv("QT_QPA_PLATFORM");  // what is started from here chooses for itself
   }
   SetApplicationLook();
+  QApplication::setWindowIcon(ApplicationIcon());
   return RunWindow(app, CommandLine(argc, argv));
 }
