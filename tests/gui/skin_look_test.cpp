@@ -45,6 +45,8 @@ TEST_F(SkinLookTest, TheScaledPassStretchesItToTheFormThatItMakes) {
   Write(u"Background.gif", Halves(1000, 400, Qt::red, Qt::blue));
   Take().ApplySkinScaled(990, 990);
   EXPECT_EQ(Window.Background().Covered(), QRect(0, 0, 724, 492));
+  EXPECT_EQ(TextOf("lblStatus"), Qt::white);
+  EXPECT_EQ(TextOf("lblFileStatus"), Qt::white);
 }
 
 TEST_F(SkinLookTest, ALayoutTakesTheBackgroundFromTheDiskAnew) {
@@ -105,6 +107,7 @@ TEST_F(SkinLookTest, WithoutASkinLabelsHaveTheDesktopsColours) {
   dark.setColor(QPalette::Window, Qt::black);
   dark.setColor(QPalette::WindowText, Qt::yellow);
   QApplication::setPalette(dark);
+  QCoreApplication::processEvents();
   EXPECT_EQ(TextOf("lblStatus"), Qt::yellow);
   EXPECT_EQ(TextOf("lblTitle"), Qt::yellow);
   QApplication::setPalette(light);
