@@ -53,8 +53,8 @@ void Describe(const Description& description) {
 }  // namespace
 
 FormControls::FormControls(QWidget& form, const EasyButtonServices& services)
-    : TopBar(MakeLabel(form)),
-      BottomBar(MakeLabel(form)),
+    : TopBar(new ImageBar(&form)),
+      BottomBar(new ImageBar(&form)),
       Title(MakeLabel(form)),
       Browse(new QFrame(&form)),
       Folders(new FolderTreeView(Browse, services.Files)),

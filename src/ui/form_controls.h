@@ -13,6 +13,7 @@
 #include "ui/easy_button.h"
 #include "ui/file_list_view.h"
 #include "ui/folder_tree_view.h"
+#include "ui/image_bar.h"
 #include "ui/operations_view.h"
 
 namespace vorlane {
@@ -30,8 +31,8 @@ struct FormControls {
   // The folder tree reads the same disk as the buttons.
   FormControls(QWidget& form, const EasyButtonServices& services);
 
-  QLabel* TopBar;
-  QLabel* BottomBar;
+  ImageBar* TopBar;
+  ImageBar* BottomBar;
   QLabel* Title;
   QFrame* Browse;
   FolderTreeView* Folders;  // inside Browse

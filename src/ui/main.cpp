@@ -6,6 +6,7 @@
 #include "platform/program_folder.h"
 #include "platform/program_version.h"
 #include "platform/user_folders.h"
+#include "platform/vendor.h"
 #include "shell/start_up.h"
 #include "ui/about_box.h"
 #include "ui/application_look.h"
@@ -13,6 +14,7 @@
 #include "ui/fade_out.h"
 #include "ui/main_window_load.h"
 #include "ui/program_icons.h"
+#include "ui/qt_text.h"
 #include "ui/stop_signal.h"
 #include "ui/uninstall.h"
 
@@ -55,6 +57,7 @@ int RunWindow(QApplication& app, const Text& commandLine) {
     about.raise();
     about.activateWindow();
   };
+  window.OnTitleClicked = [] { OpenInBrowser(ToQString(VendorAddress)); };
   program.OnCloseAsked = [&] { about.EndCheck(); };
   bool fades = true;
   program.OnClosing = [&] {
