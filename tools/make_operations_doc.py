@@ -36,7 +36,8 @@ operations that write them say so:
 - **3/12 tracks**: a track that says how many there are becomes 00, and a track 5 becomes 05;
 - **foreign letters**: a letter that Windows-1252 lacks, such as a Cyrillic one, becomes `?`;
 - **cut data**: a tag keeps its size, so a longer text pushes out what no longer fits behind it;
-- **a new tag**: a file that had no ID3v2 tag keeps one, with empty fields.
+- **a new tag**: a file that had no ID3v2 tag keeps one, with empty fields, and names that are made
+  from tags no longer see its ID3v1 tag behind it.
 """
 
 
@@ -148,9 +149,8 @@ def describe_operation(depth, title, pairs, samples):
     keys = dict(pairs)
     yield "#" * (depth + 1) + " " + title
     yield ""
-    wildcard = f" *Lists {keys['Wildcard']}.*" if "Wildcard" in keys else ""
-    yield keys["Help Message"].replace("<", "\\<") + wildcard.replace("*.", "\\*.", 1).replace(
-        "jp*g", "jp\\*g")
+    wildcard = f" Lists `{keys['Wildcard']}`." if "Wildcard" in keys else ""
+    yield keys["Help Message"].replace("<", "\\<") + wildcard
     yield ""
     boxes = boxes_of(pairs)
     for number, box in enumerate(boxes, 1):

@@ -57,6 +57,9 @@ class SampleRun {
 
   void Go() {
     catalogue_.Select(sample_.Operation, sample_.Folder, sample_.ListFolders);
+    if (!sample_.Wildcard.empty()) {
+      catalogue_.List(sample_.Wildcard);
+    }
     if (!sample_.Only.empty()) {
       catalogue_.PickRow(sample_.Only);
     }

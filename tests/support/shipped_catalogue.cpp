@@ -44,6 +44,11 @@ void ShippedCatalogue::Select(const std::string& operation, const std::string& i
   selection_.lstRenamingOperations_NodeClick();
 }
 
+void ShippedCatalogue::List(const std::string& wildcard) {
+  wildcard_.SetText(TextFromBytes(wildcard));
+  world_.List.PathChangedEvent();
+}
+
 void ShippedCatalogue::PickRow(const std::string& name) {
   const auto names = world_.Names();
   const auto found = std::find(names.begin(), names.end(), TextFromBytes(name));

@@ -28,6 +28,8 @@ class ShippedCatalogue {
   // Lists the folder, or one inside it, and clicks on an operation.
   void Select(const std::string& operation, const std::string& inside = "",
               bool listFolders = false);
+  // Types a wildcard and waits for the list.
+  void List(const std::string& wildcard);
   // Picks the row of One mode; all others stay as they are.
   void PickRow(const std::string& name);
   // Types a text into a box, ticking its check box if it has one.
