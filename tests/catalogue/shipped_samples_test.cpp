@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
-#include <set>
+#include <optional>
 
 #include "catalogue/text_file.h"
 #include "support/literal_tags.h"
@@ -181,6 +181,39 @@ TEST_P(ShippedOperation, DoesWhatItsSamplesSay) {
     run.Undo();
   }
   EXPECT_GT(shown, 0) << "no sample to show in the docs";
+}
+
+// The same sample with its first entry that changes selected, one file at a time: nothing else
+// does.
+std::optional<OperationSample> ForOneFile(OperationSample sample) {
+  const auto changes = [](const SampleEntry& entry) {
+    return entry.After != entry.Before || entry.Changes.HasTags();
+  };
+  const auto first = std::find_if(sample.Entries.begin(), sample.Entries.end(), changes);
+  if (first == sample.Entries.end() || !sample.Only.empty()) {
+    return std::nullopt;
+  }
+  sample.Only = first->Before.substr(sample.Folder.size());
+  for (auto entry = sample.Entries.begin(); entry != sample.Entries.end(); ++entry) {
+    if (entry != first) {
+      entry->After = entry->Before;
+      entry->Changes = {};
+      entry->Leaves.reset();
+    }
+  }
+  return sample;
+}
+
+TEST_P(ShippedOperation, DoesTheSameToOneFileAtATime) {
+  for (const OperationSample& told : Samples()) {
+    const auto sample = ForOneFile(told);
+    if (told.Operation == GetParam() && sample) {
+      SCOPED_TRACE("samples.txt:" + std::to_string(sample->Line));
+      SampleRun run(*sample);
+      run.Go();
+      run.Undo();
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, ShippedOperation, testing::ValuesIn(Operations()), TestName);
