@@ -36,13 +36,27 @@ std::string V1Bytes(const TagFields& fields) {
                  NumberOf(field("track")), NumberOf(field("genre")));
 }
 
+// The artist with a byte-order mark and two bytes a letter, if the sample asks for it.
+std::string ArtistFrame(const TagFields& fields) {
+  const auto found = fields.find("artist16");
+  if (found == fields.end()) {
+    return id3::Frame("TPE1", FieldOf(fields, "artist"));
+  }
+  std::string bytes = "\xFF\xFE";
+  for (const char16_t unit : TextFromBytes(found->second)) {
+    bytes += id3::Byte(unit & 0xFFU) + id3::Byte(unit >> 8U);
+  }
+  return id3::RawFrame("TPE1", static_cast<unsigned>(bytes.size()) + 1, bytes,
+                       std::string_view("\0\0\1", 3));
+}
+
 std::string V2Bytes(const TagFields& fields) {
   const auto field = [&](const char* name) { return FieldOf(fields, name); };
   std::string genre = field("genre");
   if (genre.empty() || genre.find_first_not_of("0123456789") == std::string::npos) {
     genre = "(" + std::to_string(NumberOf(genre)) + ")";
   }
-  std::string frames = id3::Frame("TPE1", field("artist")) + id3::Frame("TIT2", field("title")) +
+  std::string frames = ArtistFrame(fields) + id3::Frame("TIT2", field("title")) +
                        id3::Frame("TALB", field("album")) + id3::Comment(field("comment")) +
                        id3::Frame("TYER", field("year")) + id3::Frame("TRCK", field("track")) +
                        id3::Frame("TCON", genre);
