@@ -119,6 +119,8 @@ def read_samples():
             samples.setdefault(line[1:-1], []).append(current)
         elif match := re.match(rf"box (\d) ({QUOTED})", line):
             current[0].append(f"`{unquote(match[2])}` in box {match[1]}")
+        elif match := re.match(rf"today ({QUOTED})", line):
+            current[0].append(f"the run on {unquote(match[1])}")
         elif match := re.match(rf"only ({QUOTED})", line):
             current[0].append(f"`{unquote(match[1])}` selected, one file at a time")
         elif match := ENTRY.match(line):

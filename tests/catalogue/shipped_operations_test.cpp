@@ -123,6 +123,22 @@ TEST_F(ShippedOperations, StandInGroupsAtMostThreeLevelsDeep) {
   }
 }
 
+TEST_F(ShippedOperations, ShowWhatMostPeopleLookForWithoutOpeningAGroup) {
+  std::set<std::string> shown;
+  for (const auto& node : tree_.Nodes) {
+    if (node.Depth <= 2 && !CodeOf(node).empty()) {
+      shown.insert(PathOf(node));
+    }
+  }
+  for (const char* path :
+       {"Case/Title Case", "Case/Lower case", "Replace/Replace text", "Number/Text and number",
+        "Remove and trim/Remove first characters", "Insert/Text in front",
+        "Photos/Number by date taken", "Music/Artist - Title from tags",
+        "Music/Tags from Artist - Title", "Move into folders/Music by artist and album"}) {
+    EXPECT_EQ(shown.count(path), 1U) << path;
+  }
+}
+
 TEST_F(ShippedOperations, HoldKeysAloneEachAtTheStartOfItsLineOnly) {
   for (const auto& line : Lines()) {
     SCOPED_TRACE(line);

@@ -56,6 +56,9 @@ class SampleRun {
   }
 
   void Go() {
+    if (!sample_.Today.empty()) {
+      catalogue_.SetToday(sample_.Today);
+    }
     catalogue_.Select(sample_.Operation, sample_.Folder, sample_.ListFolders);
     if (!sample_.Wildcard.empty()) {
       catalogue_.List(sample_.Wildcard);

@@ -143,6 +143,8 @@ void ReadLine(const std::string& line, int number, std::vector<OperationSample>&
     sample.Boxes[box] = words.Quoted();
   } else if (words.Take("only ")) {
     sample.Only = words.Quoted();
+  } else if (words.Take("today ")) {
+    sample.Today = words.Quoted();
   } else if (words.Take("list ")) {
     sample.Wildcard = words.Quoted();
   } else if (words.Take("in ")) {

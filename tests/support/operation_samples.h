@@ -38,6 +38,7 @@ struct OperationSample {
   std::string Operation;  // its path of titles
   int Line = 0;
   std::string Folder;    // the one to list, inside the sample's own; empty or with a separator
+  std::string Today;     // the day of the run, "2026-03-05"; empty for any
   std::string Wildcard;  // the user's own; empty for the operation's
   std::map<int, std::string> Boxes;  // what the user types, by number of the box from 1
   std::string Only;                  // the name of the row of a run in One mode, empty for All

@@ -35,6 +35,11 @@ ShippedCatalogue::ShippedCatalogue(const TemporaryFolder& folder) : folder_(fold
   operations_ = OperationsByPath(tree);
 }
 
+void ShippedCatalogue::SetToday(const std::string& day) {
+  world_.Time.Today = *MakeDateTime(std::stoi(day.substr(0, 4)), std::stoi(day.substr(5, 2)),
+                                    std::stoi(day.substr(8)), 12, 0, 0);
+}
+
 void ShippedCatalogue::Select(const std::string& operation, const std::string& inside,
                               bool listFolders) {
   world_.State.ListFolders = listFolders;

@@ -25,6 +25,8 @@ class ShippedCatalogue {
  public:
   explicit ShippedCatalogue(const TemporaryFolder& folder);
 
+  // A day as "2026-03-05".
+  void SetToday(const std::string& day);
   // Lists the folder, or one inside it, and clicks on an operation.
   void Select(const std::string& operation, const std::string& inside = "",
               bool listFolders = false);
