@@ -497,5 +497,17 @@ TEST(EasyButtonLook, TheFocusShowsWhenTheKeyboardBroughtIt) {
   EXPECT_EQ(world.Look(), without);
 }
 
+TEST(EasyButtonLook, TheFocusFollowsTheOutline) {
+  ButtonWorld world;
+  world.Button.SetPicture(FourStrips());
+  world.Form.setFocus();
+  world.Button.setFocus(Qt::TabFocusReason);
+  EXPECT_NE(world.ColourAt({5, 10}), NormalColour);
+  EXPECT_NE(world.ColourAt({34, 10}), NormalColour);
+  EXPECT_NE(world.ColourAt({20, 5}), NormalColour);
+  EXPECT_EQ(world.ColourAt({20, 10}), NormalColour);
+  EXPECT_EQ(world.ColourAt({3, 10}), NormalColour);
+}
+
 }  // namespace
 }  // namespace vorlane
