@@ -1,22 +1,31 @@
 #include "ui/aplay_player.h"
 
 #include <QStandardPaths>
+#include <span>
 
 #include "platform/wave_sound.h"
 
 namespace vorlane {
 
-AplayPlayer::~AplayPlayer() = default;
+AplayPlayer::~AplayPlayer() {
+  constexpr int MostMilliseconds = 1000;
+  if (process_) {
+    process_->kill();
+    process_->waitForFinished(MostMilliseconds);
+  }
+}
 
 // A player that holds the sound card may take its time to end: nobody waits for it.
 void AplayPlayer::Stop() {
-  if (process_) {
-    process_->kill();
-    if (process_->state() != QProcess::NotRunning) {
-      QObject::connect(process_.get(), &QProcess::finished, process_.get(), &QObject::deleteLater);
-      process_.release();
-    }
+  if (!process_) {
+    return;
+  }
+  process_->kill();
+  if (process_->state() == QProcess::NotRunning) {
     process_.reset();
+  } else {
+    QProcess* process = process_.release();
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
   }
 }
 
@@ -36,8 +45,8 @@ void AplayPlayer::Play(std::string_view wave) {
                   {QStringLiteral("-q"), QStringLiteral("-t"), QStringLiteral("raw"),
                    QStringLiteral("-f"), format, QStringLiteral("-r"), QString::number(PlayedRate),
                    QStringLiteral("-c"), QString::number(PlayedChannels)});
-  process_->write(reinterpret_cast<const char*>(samples.data()),
-                  static_cast<qint64>(samples.size() * sizeof(samples.front())));
+  const QByteArrayView bytes(std::as_bytes(std::span(samples)));
+  process_->write(bytes.data(), bytes.size());
   process_->closeWriteChannel();
 }
 

@@ -1,7 +1,6 @@
 // What a button looks like.
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
+#include <QPainterPath>
 
 #include "ui/caption_alignment.h"
 #include "ui/easy_button.h"
@@ -166,15 +165,20 @@ void EasyButton::paintEvent(QPaintEvent* /*event*/) {
   }
 }
 
-// Two dashed lines, a dark and a light one, that show on any picture.
+// Along the outline, dark with light dashes, so that it shows on any picture.
 void EasyButton::DrawFocus(QPainter& painter) const {
   constexpr int Margin = 2;
-  const QRect inside = rect().adjusted(Margin, Margin, -Margin - 1, -Margin - 1);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(Qt::black, 1));
-  painter.drawRect(inside);
-  painter.setPen(QPen(Qt::white, 1, Qt::DashLine));
-  painter.drawRect(inside);
+  QPainterPath outline;
+  if (mask().isEmpty()) {
+    outline.addRect(rect().adjusted(Margin, Margin, -Margin, -Margin));
+  } else {
+    outline.addRegion(mask());
+  }
+  painter.setClipPath(outline);  // half of each line lies outside
+  painter.setPen(QPen(Qt::black, 4));
+  painter.drawPath(outline.simplified());
+  painter.setPen(QPen(Qt::white, 2, Qt::DashLine));
+  painter.drawPath(outline.simplified());
 }
 
 }  // namespace vorlane

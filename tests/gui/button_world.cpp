@@ -73,6 +73,29 @@ void ButtonWorld::PassTicks(int count) {
   QObject::disconnect(counting);
 }
 
+QRect InkOf(const QImage& image, const QColor& ground) {
+  QRect ink;
+  for (int y = 1; y < image.height() - 1; ++y) {
+    for (int x = 1; x < image.width() - 1; ++x) {
+      if (image.pixelColor(x, y) != ground) {
+        ink |= QRect(x, y, 1, 1);
+      }
+    }
+  }
+  return ink;
+}
+
+bool IsAllOf(const QImage& image, const QColor& colour) {
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) != colour) {
+        return false;
+      }
+    }
+  }
+  return true;
+}
+
 QColor Light() {
   return QApplication::palette().color(QPalette::Active, QPalette::Light).rgb();
 }

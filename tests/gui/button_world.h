@@ -66,6 +66,15 @@ class ButtonWorld {
   int Clicks = 0;
 };
 
+// The ground and the middle of the tests' button without a picture, which is 60 by 30.
+inline const QColor GroundColour(0xC0, 0xC0, 0xC0);
+inline constexpr QPoint Middle(30, 15);
+
+// The rectangle around everything in an image that isn't its ground, without the frame.
+QRect InkOf(const QImage& image, const QColor& ground);
+
+bool IsAllOf(const QImage& image, const QColor& colour);
+
 // The colours of a frame in its raised and its sunken state.
 QColor Light();
 QColor DarkShadow();

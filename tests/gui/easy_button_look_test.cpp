@@ -1,38 +1,10 @@
-// What a button shows: its strips, its plain frame, its caption.
+// What a button shows: its strips, its plain frame, the focus.
 #include "gui/button_world.h"
-#include "ui/caption_alignment.h"
 
 namespace vorlane {
 namespace {
 
-constexpr FormColour Ground = 0xC0C0C0;
-const QColor GroundColour(0xC0, 0xC0, 0xC0);
 const QColor NormalFrame(0xCF, 0xCF, 0xCF);
-constexpr QPoint Middle(30, 15);  // of a button without a picture, which is 60 by 30 here
-
-// The rectangle around everything in an image that isn't its ground, without the frame.
-QRect InkOf(const QImage& image, const QColor& ground) {
-  QRect ink;
-  for (int y = 1; y < image.height() - 1; ++y) {
-    for (int x = 1; x < image.width() - 1; ++x) {
-      if (image.pixelColor(x, y) != ground) {
-        ink |= QRect(x, y, 1, 1);
-      }
-    }
-  }
-  return ink;
-}
-
-bool IsAllOf(const QImage& image, const QColor& colour) {
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, y) != colour) {
-        return false;
-      }
-    }
-  }
-  return true;
-}
 
 // The frame: the top edge and the left one but for their last points, then the other two.
 void ExpectFrame(const QImage& image, const QColor& topLeft, const QColor& bottomRight) {
@@ -200,216 +172,6 @@ TEST(EasyButtonLook, APictureThatGoesShowsUntilTheNextState) {
   EXPECT_EQ(world.Button.size(), QSize(60, 30));
 }
 
-TEST(EasyButtonLook, TheFlagsOfEveryAlignment) {
-  constexpr int flags[] = {5, 1, 9, 4, 0, 8, 6, 2, 10};
-  for (int align = 0; align < 9; ++align) {
-    EXPECT_EQ(AlignToDrawFlags(align), flags[align]) << align;
-  }
-  for (const int align : {-1, 9, 10, 1000, -32768}) {
-    EXPECT_EQ(AlignToDrawFlags(align), 0) << align;
-  }
-}
-
-TEST(EasyButtonLook, TheCaptionStandsWhereAlignSays) {
-  ButtonWorld world;
-  world.Button.resize(120, 60);
-  world.Button.SetCaption(QStringLiteral("XX"));
-  for (int align = 0; align <= 9; ++align) {
-    world.Button.SetAlign(align);
-    const QRect ink = InkOf(world.Look(), GroundColour);
-    ASSERT_FALSE(ink.isEmpty()) << align;
-    ASSERT_LT(ink.width(), 30);
-    const int column = align >= 9 ? 3 : align;
-    const int centre = ink.center().x();
-    if (column < 3) {
-      EXPECT_NEAR(centre, 60, 2) << align;
-    } else if (column < 6) {
-      EXPECT_LT(ink.right(), 30) << align;
-    } else {
-      EXPECT_GT(ink.left(), 90) << align;
-    }
-    const int row = align == 9 ? 1 : align % 3;
-    if (row == 0) {
-      EXPECT_NEAR(ink.center().y(), 30, 3) << align;
-    } else if (row == 1) {
-      EXPECT_LT(ink.bottom(), 20) << align;
-    } else {
-      EXPECT_GT(ink.top(), 40) << align;
-    }
-  }
-}
-
-TEST(EasyButtonLook, AnyOtherAlignmentIsTheTopLeftCorner) {
-  ButtonWorld world;
-  world.Button.SetCaption(QStringLiteral("Text"));
-  world.Button.SetAlign(4);
-  const QImage topLeft = world.Look();
-  world.Button.SetAlign(9);
-  EXPECT_EQ(world.Look(), topLeft);
-  world.Button.SetAlign(-5);
-  EXPECT_EQ(world.Look(), topLeft);
-  world.Button.SetAlign(3);
-  EXPECT_NE(world.Look(), topLeft);
-}
-
-TEST(EasyButtonLook, TheCaptionMovesWithThePressedState) {
-  ButtonWorld world;
-  world.Button.SetAlign(0);
-  world.Button.SetCaption(QStringLiteral("XX"));
-  const QRect atRest = InkOf(world.Look(), GroundColour);
-  world.PointAt(Middle);
-  ASSERT_TRUE(world.BecomesPlain(Light()));
-  EXPECT_EQ(InkOf(world.Look(), GroundColour), atRest);
-  world.Press(Middle);
-  ASSERT_TRUE(world.BecomesPlain(DarkShadow()));
-  EXPECT_EQ(InkOf(world.Look(), GroundColour), atRest.translated(1, 1));
-  world.Release(Middle);
-}
-
-TEST(EasyButtonLook, ACaptionStandsOnEachStrip) {
-  ButtonWorld world;
-  world.Button.SetPicture(FourStrips());
-  world.Button.SetForeColor(0x00FFFF);  // yellow: red and green
-  world.Button.SetCaption(QStringLiteral("X"));
-  EXPECT_FALSE(InkOf(world.Look(), NormalColour).isEmpty());
-  world.PointAt(SolidPlace);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return world.ColourAt({1, 1}) == HoverColour; }));
-  EXPECT_FALSE(InkOf(world.Look(), HoverColour).isEmpty());
-}
-
-TEST(EasyButtonLook, ACaptionOfBlanksDrawsNothing) {
-  ButtonWorld world;
-  const QImage bare = world.Look();
-  for (const char* blank : {"", " ", "      "}) {
-    world.Button.SetCaption(QLatin1String(blank));
-    EXPECT_EQ(world.Look(), bare);
-  }
-  world.Button.SetCaption(QStringLiteral(" . "));
-  EXPECT_NE(world.Look(), bare);
-}
-
-TEST(EasyButtonLook, TheMarkOfTheAccessKeyUnderlines) {
-  ButtonWorld world;
-  world.Button.SetCaption(QStringLiteral("Xnn"));
-  const QImage plain = world.Look();
-  world.Button.SetCaption(QStringLiteral("&Xnn"));
-  const QRect ink = InkOf(plain, GroundColour);
-  const QRect underlined = InkOf(world.Look(), GroundColour);
-  EXPECT_GT(underlined.bottom(), ink.bottom());
-  EXPECT_EQ(underlined.left(), ink.left());
-  EXPECT_EQ(underlined.right(), ink.right());  // the mark itself takes no room
-}
-
-TEST(EasyButtonLook, DisabledChangesTheCaptionsColourAlone) {
-  ButtonWorld world;
-  world.Button.SetForeColor(0x0000FF);
-  world.Button.SetCaption(QStringLiteral("XX"));
-  const auto has = [&world](const QColor& colour) {
-    const QImage look = world.Look();
-    for (int y = 1; y < look.height() - 1; ++y) {
-      for (int x = 1; x < look.width() - 1; ++x) {
-        const QColor at = look.pixelColor(x, y);
-        if (std::abs(at.red() - colour.red()) + std::abs(at.green() - colour.green()) +
-                std::abs(at.blue() - colour.blue()) <
-            60) {
-          return true;
-        }
-      }
-    }
-    return false;
-  };
-  EXPECT_TRUE(has(Qt::red));
-  world.Button.setEnabled(false);
-  EXPECT_FALSE(has(Qt::red));
-  const QImage disabled = world.Look();
-  EXPECT_TRUE(has(QApplication::palette().color(QPalette::Disabled, QPalette::Text).rgb()));
-  world.Button.setEnabled(true);
-  EXPECT_TRUE(has(Qt::red));
-  world.Button.SetEnabled(false);
-  EXPECT_EQ(world.Look(), disabled);
-}
-
-TEST(EasyButtonLook, ADisabledButtonKeepsItsStrips) {
-  ButtonWorld world;
-  world.Button.SetPicture(FourStrips());
-  const QImage enabled = world.Look();
-  world.Button.setEnabled(false);
-  EXPECT_EQ(world.Look(), enabled);
-}
-
-struct Set {
-  const char* Name;
-  std::function<void(EasyButton&)> Do;
-};
-
-std::vector<Set> SetsThatClear() {
-  return {{"Align", [](EasyButton& button) { button.SetAlign(3); }},
-          {"BackColor", [](EasyButton& button) { button.SetBackColor(Ground); }},
-          {"Caption", [](EasyButton& button) { button.SetCaption(QStringLiteral("Y")); }},
-          {"Enabled", [](EasyButton& button) { button.SetEnabled(true); }},
-          {"Enabled", [](EasyButton& button) { button.setEnabled(false); }},
-          {"Font", [](EasyButton& button) { button.SetFont(QFont(QStringLiteral("Serif"), 7)); }},
-          {"Font", [](EasyButton& button) { button.SetFont(button.Font()); }},
-          {"ForeColor", [](EasyButton& button) { button.SetForeColor(0xFF); }}};
-}
-
-TEST(EasyButtonLook, ASetUnderThePointerLeavesItBlankUntilThePointerLeaves) {
-  for (const Set& set : SetsThatClear()) {
-    ButtonWorld world;
-    world.Button.SetPicture(FourStrips());
-    world.Button.SetCaption(QStringLiteral("X"));
-    world.PointAt(SolidPlace);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return world.ColourAt({1, 1}) == HoverColour; }));
-    set.Do(world.Button);
-    EXPECT_TRUE(IsAllOf(world.Look(), GroundColour)) << set.Name;
-    world.PassTicks(3);
-    EXPECT_TRUE(IsAllOf(world.Look(), GroundColour)) << set.Name;
-    world.PointAt(OutsidePlace);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      return world.ColourAt({1, 1}) == NormalColour;
-    })) << set.Name;
-  }
-}
-
-TEST(EasyButtonLook, ASetWhileItIsHeldLeavesItBlankUntilTheRelease) {
-  ButtonWorld world;
-  world.PointAt(Middle);
-  world.Press(Middle);
-  ASSERT_TRUE(world.BecomesPlain(DarkShadow()));
-  world.Button.SetCaption(QStringLiteral("X"));
-  EXPECT_TRUE(IsAllOf(world.Look(), GroundColour));
-  world.PassTicks(3);
-  EXPECT_TRUE(IsAllOf(world.Look(), GroundColour));
-  world.Release(Middle);
-  EXPECT_EQ(world.ColourAt({0, 0}), Light());
-  EXPECT_FALSE(InkOf(world.Look(), GroundColour).isEmpty());
-}
-
-TEST(EasyButtonLook, ABlankButtonThatIsPressedShowsAgain) {
-  ButtonWorld world;
-  world.Button.SetPicture(FourStrips());
-  world.PointAt(SolidPlace);
-  ASSERT_TRUE(world.Becomes(HoverColour));
-  world.Button.SetCaption(QStringLiteral(" "));
-  EXPECT_TRUE(IsAllOf(world.Look(), GroundColour));
-  world.Press(SolidPlace);
-  EXPECT_TRUE(world.Becomes(PressedColour));
-  world.Release(SolidPlace);
-}
-
-TEST(EasyButtonLook, AtRestASetShowsAtOnceAndIsTold) {
-  for (const Set& set : SetsThatClear()) {
-    ButtonWorld world;
-    world.Button.SetCaption(QStringLiteral("X"));
-    QStringList told;
-    world.Button.OnPropertyChanged = [&told](const QString& name) { told << name; };
-    set.Do(world.Button);
-    EXPECT_EQ(told, QStringList(QLatin1String(set.Name)));
-    EXPECT_EQ(world.ColourAt({0, 0}), NormalFrame) << set.Name;
-    EXPECT_FALSE(InkOf(world.Look(), GroundColour).isEmpty()) << set.Name;
-  }
-}
-
 TEST(EasyButtonLook, TheGroundIsBackColor) {
   ButtonWorld world;
   world.Button.SetBackColor(0x302010);
@@ -495,6 +257,18 @@ TEST(EasyButtonLook, TheFocusShowsWhenTheKeyboardBroughtIt) {
   EXPECT_EQ(world.ColourAt({0, 0}), NormalFrame);
   world.Form.setFocus();
   EXPECT_EQ(world.Look(), without);
+}
+
+TEST(EasyButtonLook, TheFocusFollowsTheOutline) {
+  ButtonWorld world;
+  world.Button.SetPicture(FourStrips());
+  world.Form.setFocus();
+  world.Button.setFocus(Qt::TabFocusReason);
+  EXPECT_NE(world.ColourAt({5, 10}), NormalColour);
+  EXPECT_NE(world.ColourAt({34, 10}), NormalColour);
+  EXPECT_NE(world.ColourAt({20, 5}), NormalColour);
+  EXPECT_EQ(world.ColourAt({20, 10}), NormalColour);
+  EXPECT_EQ(world.ColourAt({3, 10}), NormalColour);
 }
 
 }  // namespace
