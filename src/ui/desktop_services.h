@@ -20,7 +20,7 @@ struct DesktopServices {
   // Message boxes go to `prompts`, which outlives this.
   explicit DesktopServices(Prompter& prompts);
 
-  ProgramServices ForProgram() { return {Files, Time, Report, Prompts, Memory}; }
+  ProgramServices ForProgram() { return {Files, Time, Report, Prompts, Memory, Clipboard}; }
   ShutDownServices ForShutDown() { return {Files, Settings, Registry}; }
 
   Prompter& Prompts;

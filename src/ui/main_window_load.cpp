@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QScreen>
 
+#include "catalogue/keyword_list.h"
 #include "catalogue/operations_file.h"
 #include "platform/interface_texts.h"
 #include "platform/program_folder.h"
@@ -57,13 +58,17 @@ void LoadColumns(Program& program, Settings& settings) {
   }
 }
 
+void TellMissing(Prompter& prompts, const Text& folder, TextView name) {
+  Text message = u"'";
+  message.append(folder).append(name).append(u"'");
+  message.append(InterfaceText(TextNumber::IsMissing));
+  prompts.Show(BoxIcon::Stop, ApplicationTitle, message);
+}
+
 void LoadOperations(Program& program, DesktopServices& services, const Text& folder) {
   auto tree = LoadOperationsFile(services.Files, folder);
   if (!tree) {
-    Text message = u"'";
-    message.append(folder).append(OperationsFileName).append(u"'");
-    message.append(InterfaceText(TextNumber::IsMissing));
-    services.Prompts.Show(BoxIcon::Stop, ApplicationTitle, message);
+    TellMissing(services.Prompts, folder, OperationsFileName);
     program.Window().Controls().Go->setEnabled(false);
     return;
   }
@@ -71,6 +76,19 @@ void LoadOperations(Program& program, DesktopServices& services, const Text& fol
   program.ShowOperations(*std::move(tree));
   if (failure) {
     services.Report.ReportError(FormName, u"LoadInterfaceElements", u"", *failure);
+  }
+}
+
+void LoadKeywords(Program& program, DesktopServices& services, const Text& folder) {
+  auto list = LoadKeywordListFile(services.Files, folder);
+  if (!list) {
+    TellMissing(services.Prompts, folder, KeywordListFileName);
+    return;
+  }
+  const auto failure = list->Failure;
+  program.ShowKeywords(*std::move(list));
+  if (failure) {
+    services.Report.ReportError(FormName, u"LoadKeywordListFromFile", u"", *failure);
   }
 }
 
@@ -113,10 +131,12 @@ void LoadMainWindow(Program& program, DesktopServices& services, const Text& pro
   services.Report.SetRunValues([&] { return ValuesOf(program, services.Files); });
   const bool isFirstStart = UpgradeSettings(services.Registry);
   program.HideLabelsLater(isFirstStart);
+  program.Help().Tips.InitBalloonToolTips();
   Settings& settings = services.Settings;
   program.Wildcard().LoadItems(settings.GetSetting(SettingsSection, SettingKey::WildCards, u""));
   LoadColumns(program, settings);
   LoadOperations(program, services, programFolder);
+  LoadKeywords(program, services, programFolder);
   window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
   window.Controls().Status->setToolTip(ToQString(InterfaceText(TextNumber::PointAtQuestionMark)));
   program.SelectOperation(StoredLastOperation(settings));

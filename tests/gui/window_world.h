@@ -9,6 +9,7 @@
 #include "catalogue/operations_tree.h"
 #include "platform/posix_file_system.h"
 #include "support/memory_box_memory.h"
+#include "support/recording_clipboard.h"
 #include "support/recording_prompter.h"
 #include "support/recording_report.h"
 #include "support/temporary_folder.h"
@@ -46,6 +47,7 @@ struct WindowWorld {
   RecordingReport Report;
   RecordingPrompter Prompts;
   MemoryBoxMemory Memory;
+  RecordingClipboard Clipboard;
   Program Main;
 };
 
