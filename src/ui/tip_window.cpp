@@ -12,7 +12,13 @@ namespace vorlane {
 
 namespace {
 
-constexpr int WidestText = 270;
+constexpr int WidestTitle = 340;
+
+// A long text would be a tall column if it had no more room than a short one.
+constexpr int WidestShortText = 190;
+constexpr int WidestLongText = 340;
+constexpr int ShortTextLength = 120;
+
 constexpr int Margin = 8;
 constexpr int RectangleMargin = 4;
 constexpr int IconSize = 16;
@@ -34,8 +40,8 @@ QStyle::StandardPixmap PixmapOf(TipIcon icon) {
   return QStyle::SP_MessageBoxInformation;
 }
 
-QSize SizeOfText(const QFont& font, const QString& text) {
-  return QFontMetrics(font).boundingRect(QRect(0, 0, WidestText, 0), TextFlags, text).size();
+QSize SizeOfText(const QFont& font, int widest, const QString& text) {
+  return QFontMetrics(font).boundingRect(QRect(0, 0, widest, 0), TextFlags, text).size();
 }
 
 QRect ScreenAt(QPoint point, const QWidget& widget) {
@@ -96,7 +102,7 @@ TipWindow::Blocks TipWindow::Arrange() const {
   int right = margin;
   const bool hasIcon = content_.Icon != TipIcon::None;
   if (hasIcon || !content_.Title.isEmpty()) {
-    const QSize title = SizeOfText(TitleFont(), content_.Title);
+    const QSize title = SizeOfText(TitleFont(), WidestTitle, content_.Title);
     const int height = std::max(hasIcon ? IconSize : 0, title.height());
     const int left = margin + (hasIcon ? IconSize + IconGap : 0);
     if (hasIcon) {
@@ -106,7 +112,8 @@ TipWindow::Blocks TipWindow::Arrange() const {
     right = std::max(margin + IconSize, blocks.Title.right() + 1);
     top += height + LineGap;
   }
-  blocks.Text = {QPoint(margin, top), SizeOfText(font(), content_.Text)};
+  const int widest = content_.Text.size() > ShortTextLength ? WidestLongText : WidestShortText;
+  blocks.Text = {QPoint(margin, top), SizeOfText(font(), widest, content_.Text)};
   right = std::max(right, blocks.Text.right() + 1);
   blocks.Body = {right + margin, blocks.Text.bottom() + 1 + margin};
   return blocks;
@@ -127,10 +134,10 @@ void TipWindow::PlaceAt(QPoint anchor, TipSide side, bool centered) {
   update();
 }
 
-// In the window's own coordinates, along the middle of the pixels at its edge.
+// In the window's own coordinates, through the pixels at its edge.
 QPainterPath TipWindow::Outline() const {
   const QPoint corner = place_.Window().topLeft();
-  const QRectF body = QRectF(place_.Body.translated(-corner)).adjusted(0.5, 0.5, -0.5, -0.5);
+  const QRectF body = QRectF(place_.Body.translated(-corner)).adjusted(0, 0, -1, -1);
   QPainterPath path;
   if (!balloon_) {
     path.addRect(body);
@@ -138,7 +145,7 @@ QPainterPath TipWindow::Outline() const {
   }
   path.addRoundedRect(body, CornerRadius, CornerRadius);
   const bool down = place_.Stem == StemEdge::Bottom;
-  const double middle = place_.StemRoot.x() - corner.x() + 0.5;
+  const double middle = place_.StemRoot.x() - corner.x();
   const double root = down ? body.bottom() : body.top();
   const double point = down ? root + StemLength : root - StemLength;
   QPainterPath stem;

@@ -26,6 +26,8 @@ CATALOGUE = (
     "Wildcard: *.mp3\r\nAvailable Boxes: 0\r\n"
 )
 
+KEYWORDS = "<NAMEONLY>\r\n'The name. Without extension.\r\n\r\n<EXTONLY>\r\n'The extension."
+
 # Places in the client area, in pixels.
 GO = (915, 430)
 UNDO = (985, 209)
@@ -89,6 +91,7 @@ class WindowTest(unittest.TestCase):
         self.program_folder = self.work / "program"
         self.program_folder.mkdir()
         (self.program_folder / "Operations.ini").write_bytes(CATALOGUE.encode())
+        (self.program_folder / "KeywordList.ini").write_bytes(KEYWORDS.encode())
         self.home = self.work / "home"
         self.home.mkdir()
         self.display = Display()
