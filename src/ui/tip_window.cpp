@@ -19,6 +19,10 @@ constexpr int WidestShortText = 190;
 constexpr int WidestLongText = 340;
 constexpr int ShortTextLength = 120;
 
+// Widths go in steps, so that of two tips with nearly the same text at one place the upper one
+// covers the lower.
+constexpr int WidthStep = 20;
+
 constexpr int Margin = 8;
 constexpr int RectangleMargin = 4;
 constexpr int IconSize = 16;
@@ -115,7 +119,8 @@ TipWindow::Blocks TipWindow::Arrange() const {
   const int widest = content_.Text.size() > ShortTextLength ? WidestLongText : WidestShortText;
   blocks.Text = {QPoint(margin, top), SizeOfText(font(), widest, content_.Text)};
   right = std::max(right, blocks.Text.right() + 1);
-  blocks.Body = {right + margin, blocks.Text.bottom() + 1 + margin};
+  blocks.Body = {(right + margin + WidthStep - 1) / WidthStep * WidthStep,
+                 blocks.Text.bottom() + 1 + margin};
   return blocks;
 }
 

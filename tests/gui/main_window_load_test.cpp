@@ -149,7 +149,7 @@ TEST_F(MainWindowLoadTest, TheKeywordsAreListed) {
 }
 
 TEST_F(MainWindowLoadTest, AMissingKeywordListIsTold) {
-  Folder.Remove("program/KeywordList.ini");
+  ASSERT_TRUE(QFile::remove(ToQString(Folder.TextPath() + u"program/KeywordList.ini")));
   Run& run = Load();
   ASSERT_EQ(Prompts.Boxes.size(), 1u);
   EXPECT_EQ(Prompts.Boxes[0].Icon, BoxIcon::Stop);

@@ -395,6 +395,7 @@ TEST_F(TooltipTest, OnDemandIsOutOfSightWithAHiddenWindow) {
   EXPECT_TRUE(Hides());
   Window.show();
   Window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
   EXPECT_TRUE(Appears());
 }
 
