@@ -40,7 +40,7 @@ void SetBalloonToolTip(ClsTooltip& tip, QWidget& control, const BalloonSetUp& se
 
 // A tip's control, the numbers of its title and text (0 for a blank), and where it is shown.
 struct BalloonTips::Row {
-  QPushButton* FormControls::*Button;  // none: the wildcard
+  EasyButton* FormControls::*Button;  // none: the wildcard
   int TitleNumber;
   int TextNumber;
   std::int32_t Position;

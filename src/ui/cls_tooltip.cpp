@@ -12,12 +12,6 @@ namespace {
 
 constexpr int BelowThePointer = 20;  // clear of the pointer's picture
 
-QColor ColorOf(std::int32_t color) {
-  const auto bits = static_cast<std::uint32_t>(color);
-  return {static_cast<int>(bits & 0xFF), static_cast<int>(bits >> 8 & 0xFF),
-          static_cast<int>(bits >> 16 & 0xFF)};
-}
-
 TipIcon IconOf(std::int32_t icon) {
   const bool isKnown = icon >= 0 && icon <= static_cast<std::int32_t>(TipIcon::Error);
   return isKnown ? static_cast<TipIcon>(icon) : TipIcon::None;
@@ -47,17 +41,17 @@ ClsTooltip::~ClsTooltip() {
   Destroy();
 }
 
-void ClsTooltip::SetBackColor(std::int32_t color) {
-  backColor_ = color;
+void ClsTooltip::SetBackColor(FormColour colour) {
+  backColor_ = colour;
   if (window_) {
-    window_->SetBackColor(ColorOf(color));
+    window_->SetBackColor(ToQColor(colour, window_->palette()));
   }
 }
 
-void ClsTooltip::SetForeColor(std::int32_t color) {
-  foreColor_ = color;
+void ClsTooltip::SetForeColor(FormColour colour) {
+  foreColor_ = colour;
   if (window_) {
-    window_->SetForeColor(ColorOf(color));
+    window_->SetForeColor(ToQColor(colour, window_->palette()));
   }
 }
 
@@ -119,10 +113,10 @@ void ClsTooltip::CreateToolTip(QWidget& parent) {
   window_->SetContent(
       {.Icon = IconOf(icon_), .Title = ToQString(title_), .Text = ToQString(text_)});
   if (foreColor_ != 0) {
-    window_->SetForeColor(ColorOf(foreColor_));
+    window_->SetForeColor(ToQColor(foreColor_, window_->palette()));
   }
   if (backColor_ != 0) {
-    window_->SetBackColor(ColorOf(backColor_));
+    window_->SetBackColor(ToQColor(backColor_, window_->palette()));
   }
   if (font_) {
     window_->SetTextFont(*font_);

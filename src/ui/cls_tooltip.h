@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "platform/text.h"
+#include "ui/form_colours.h"
 #include "ui/tip_window.h"
 
 namespace vorlane {
@@ -23,12 +24,12 @@ class ClsTooltip final : public QObject {
   ClsTooltip();
   ~ClsTooltip() override;
 
-  // These act on a tip that exists at once; one that has just been made takes them over. Colours
-  // are &H00BBGGRR. A colour of 0 at the making leaves the desktop's; set later, it is black.
-  std::int32_t BackColor() const { return backColor_; }
-  void SetBackColor(std::int32_t color);
-  std::int32_t ForeColor() const { return foreColor_; }
-  void SetForeColor(std::int32_t color);
+  // These act on a tip that exists at once; one that has just been made takes them over. A colour
+  // of 0 at the making leaves the desktop's; set later, it is black.
+  FormColour BackColor() const { return backColor_; }
+  void SetBackColor(FormColour colour);
+  FormColour ForeColor() const { return foreColor_; }
+  void SetForeColor(FormColour colour);
   const std::optional<QFont>& TipFont() const { return font_; }
   void SetTipFont(const std::optional<QFont>& font);
 
@@ -88,8 +89,8 @@ class ClsTooltip final : public QObject {
   void PointerRested();
   void ShowHoverTip();
 
-  std::int32_t backColor_ = 0;
-  std::int32_t foreColor_ = 0;
+  FormColour backColor_ = 0;
+  FormColour foreColor_ = 0;
   std::optional<QFont> font_;
   Text text_;
   Text title_;

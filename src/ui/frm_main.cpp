@@ -1,9 +1,11 @@
 #include "ui/frm_main.h"
 
 #include <QCloseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 #include "platform/vendor.h"
+#include "ui/label_colours.h"
 #include "ui/qt_text.h"
 
 namespace vorlane {
@@ -31,15 +33,20 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
+FrmMain::FrmMain(const EasyButtonServices& services)
+    : controls_(*this, services), background_(services.Files), grip_(*this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
+  setMouseTracking(true);
   for (const FormControlPlace& control : layout_.Controls()) {
     auto* widget = findChild<QWidget*>(NameOf(control), Qt::FindDirectChildrenOnly);
     widget->setVisible(control.VisibleAtFirst);
     if (control.Kind == ControlKind::Label) {
       widget->setFont(LabelFont(control.Name == "lblTitle"));
     }
+    // What a control leaves of the mouse isn't the form's: a right press on it opens no menu there.
+    widget->setAttribute(Qt::WA_NoMousePropagation);
+    widget->installEventFilter(this);
     widget->raise();
     placed_.push_back(widget);
   }
@@ -50,16 +57,39 @@ FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
     }
     before = next;
   }
-  controls_.FileStatus->installEventFilter(this);
-  resize(PixelsOf(DesignWidth), PixelsOf(DesignHeight));
-  PlaceControls();
+  for (QWidget* bar : {controls_.TopBar, controls_.BottomBar}) {
+    bar->setMouseTracking(true);
+  }
+  grip_.OnPointerReset = [this] {
+    if (OnPointerReset) {
+      OnPointerReset();
+    }
+  };
+  ShowHelpLabelColours(controls_);
+  TakeLayout();
   ShowFileStatus({});
 }
 
+void FrmMain::TakeLayout() {
+  const QScopedValueRollback resizing(inResize_, true);
+  resize(PixelsOf(layout_.Width()), PixelsOf(layout_.Height()));
+  PlaceControls();
+}
+
+void FrmMain::ScaleFonts(double factor) {
+  for (std::size_t i = 0; i < placed_.size(); ++i) {
+    const ControlKind kind = layout_.Controls()[i].Kind;
+    if (kind == ControlKind::Label || kind == ControlKind::TextBox) {
+      QFont font = placed_[i]->font();
+      font.setPixelSize(std::max(1, qRound(font.pixelSize() * factor)));
+      placed_[i]->setFont(font);
+    }
+  }
+}
+
 void FrmMain::InitLayout() {
-  layout_.InitResizeTags();
+  layout_.InitResizeTags({TwipsOf(width()), TwipsOf(height())});
   measured_ = true;
-  ResizeIfChanged();
 }
 
 void FrmMain::RestorePlacement(const PlacementToApply& placement) {
@@ -83,7 +113,9 @@ TwipsRect FrmMain::NormalPlacement() const {
 
 void FrmMain::ResizeIfChanged() {
   if (measured_ && layout_.ResizeIfChanged(TwipsOf(width()), TwipsOf(height()))) {
+    background_.Show(size());
     PlaceControls();
+    update();
   }
 }
 
@@ -100,6 +132,7 @@ void FrmMain::PlaceControls() {
     }
   }
   PlaceStatus();
+  ShowLabelColours(controls_, background_.Covered(), mouseOnTitle_);
 }
 
 void FrmMain::ShowStatus(const QString& text) {
@@ -124,6 +157,11 @@ void FrmMain::ShowFileStatus(const QString& text) {
   label.move(PixelsOf(place.Left), PixelsOf(place.Top));
 }
 
+void FrmMain::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  background_.Paint(painter, event->rect());
+}
+
 void FrmMain::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   if (isMaximized() && OnMaximized) {
@@ -136,6 +174,7 @@ void FrmMain::resizeEvent(QResizeEvent* event) {
 void FrmMain::TakeWindowState() {
   if (isMaximized()) {
     pendingRestore_ = true;
+    grip_.Disarm();
   }
   if (isMinimized() || inResize_) {
     return;
@@ -163,7 +202,101 @@ void FrmMain::closeEvent(QCloseEvent* event) {
   event->setAccepted(!OnClose || OnClose());
 }
 
+// The form and the two bars share what follows.
+void FrmMain::MousePressed(const QMouseEvent& event) {
+  if (event.button() == Qt::RightButton && OnRightPress) {
+    OnRightPress();
+  }
+}
+
+void FrmMain::MouseMoved(QPointF position) {
+  grip_.HitTestResizeGrip(position);
+  ShowMouseOnTitle(false);
+  if (OnHoverReset) {
+    OnHoverReset();
+  }
+}
+
+// The size changes once, and only then everything is laid out.
+void FrmMain::MouseReleased(const QMouseEvent& event) {
+  const auto size = grip_.FinishDragResize(event.globalPosition().toPoint());
+  if (!size) {
+    return;
+  }
+  {
+    const QScopedValueRollback resizing(inResize_, true);
+    resize(*size);
+  }
+  ResizeIfChanged();
+}
+
+void FrmMain::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && !KnowsPlaces()) {
+    grip_.PressedWithoutPlaces();
+  }
+  MousePressed(*event);
+}
+
+void FrmMain::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint cursor = event->globalPosition().toPoint();
+  MouseMoved(event->position());
+  grip_.DragStep(cursor);
+}
+
+void FrmMain::mouseReleaseEvent(QMouseEvent* event) {
+  MouseReleased(*event);
+}
+
+bool FrmMain::TakeBarEvent(const QWidget& bar, const QEvent& event) {
+  const auto mouse = [&event]() -> const QMouseEvent& {
+    return static_cast<const QMouseEvent&>(event);
+  };
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      MousePressed(mouse());
+      return true;
+    case QEvent::MouseMove:
+      MouseMoved(bar.mapToParent(mouse().position()));
+      return true;
+    case QEvent::MouseButtonRelease:
+      MouseReleased(mouse());
+      return true;
+    default:
+      return false;
+  }
+}
+
+void FrmMain::TakeTitleEvent(const QEvent& event) {
+  if (event.type() == QEvent::Enter) {
+    ShowMouseOnTitle(true);
+  } else if (event.type() == QEvent::MouseButtonRelease) {
+    const auto& mouse = static_cast<const QMouseEvent&>(event);
+    if (mouse.button() == Qt::LeftButton && controls_.Title->rect().contains(mouse.pos()) &&
+        OnTitleClicked) {
+      OnTitleClicked();
+    }
+  }
+}
+
+void FrmMain::ShowMouseOnTitle(bool isThere) {
+  if (mouseOnTitle_ != isThere) {
+    mouseOnTitle_ = isThere;
+    ShowLabelColours(controls_, background_.Covered(), mouseOnTitle_);
+  }
+}
+
 bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Enter) {
+    grip_.Disarm();  // a quick mouse leaves the strip unseen
+  }
+  if (watched == controls_.TopBar || watched == controls_.BottomBar) {
+    return TakeBarEvent(*static_cast<QWidget*>(watched), *event) ||
+           QWidget::eventFilter(watched, event);
+  }
+  if (watched == controls_.Title) {
+    TakeTitleEvent(*event);
+  }
   if (watched == controls_.FileStatus && event->type() == QEvent::MouseButtonDblClick &&
       OnFileStatusDoubleClicked) {
     OnFileStatusDoubleClicked();

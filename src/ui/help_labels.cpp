@@ -22,11 +22,6 @@ void InitHelpLabels(FormControls& controls) {
   for (int i = 0; i < HelpLabelCount; ++i) {
     QLabel& label = *controls.HelpLabels[static_cast<std::size_t>(i)];
     label.setText(CaptionOf(i));
-    QPalette colors = label.palette();
-    colors.setColor(QPalette::Window, Qt::yellow);
-    colors.setColor(QPalette::WindowText, Qt::black);
-    label.setPalette(colors);
-    label.setAutoFillBackground(true);
     label.adjustSize();
   }
 }

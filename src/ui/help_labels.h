@@ -5,7 +5,7 @@
 
 namespace vorlane {
 
-// Captions and colours. The labels stay hidden.
+// Gives them their captions. They stay hidden.
 void InitHelpLabels(FormControls& controls);
 
 // Shows the labels, those of option boxes only for the boxes that are shown.

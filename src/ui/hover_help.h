@@ -7,9 +7,9 @@
 
 namespace vorlane {
 
-class HoverHelp final : public QObject {
+class HoverHelp {
  public:
-  // Both have to outlive it.
+  // Both have to outlive it. It takes the mouse moves over the help button and the form.
   HoverHelp(FrmMain& window, FailureReport& report);
 
   // All at once, as a move over the help button shows them.
@@ -22,9 +22,6 @@ class HoverHelp final : public QObject {
   void Toggle();
 
   BalloonTips Tips;
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   bool IsShown() const;

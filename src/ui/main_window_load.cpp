@@ -3,14 +3,18 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QScreen>
+#include <algorithm>
+#include <limits>
 
 #include "catalogue/keyword_list.h"
 #include "catalogue/operations_file.h"
 #include "platform/interface_texts.h"
 #include "platform/program_folder.h"
+#include "shell/screen_choice.h"
 #include "shell/start_up.h"
 #include "shell/stored_values.h"
 #include "ui/qt_text.h"
+#include "ui/skin.h"
 
 namespace vorlane {
 
@@ -19,11 +23,6 @@ namespace {
 constexpr Column AllColumns[] = {Column::CurrentName, Column::ProposedName, Column::Artist,
                                  Column::Title,       Column::ID3v1,        Column::ID3v2,
                                  Column::ReadOnly,    Column::Path};
-
-// A program on Wayland is told nothing of its window's place.
-bool KnowsPlaces() {
-  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
 
 class WindowAtExit final : public ClosingWindow {
  public:
@@ -50,6 +49,10 @@ class WindowAtExit final : public ClosingWindow {
   FrmMain& window_;
   Settings& settings_;
 };
+
+std::int16_t Pixels16(int pixels) {
+  return static_cast<std::int16_t>(std::min<int>(pixels, std::numeric_limits<std::int16_t>::max()));
+}
 
 void LoadColumns(Program& program, Settings& settings) {
   QHeaderView& header = *program.Window().Controls().FileList->header();
@@ -111,6 +114,19 @@ void PlaceWindow(FrmMain& window, Settings& settings) {
   }
 }
 
+// Before the settings of the year before are taken over: they don't choose the layout of this
+// start.
+void ApplySkin(Skin& skin, Settings& settings) {
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  const LayoutChoice choice =
+      ChooseLayout({Pixels16(screen.width()), Pixels16(screen.height())}, settings);
+  if (choice.Compact) {
+    skin.ApplySkinScaled(choice.Size.Width, choice.Size.Height);
+  } else {
+    skin.ApplySkinPictures();
+  }
+}
+
 RunValues ValuesOf(Program& program, FileSystem& files) {
   const QSize screen = QGuiApplication::primaryScreen()->size();
   RunValues values = RunValuesOf(program.State());
@@ -129,6 +145,8 @@ RunValues ValuesOf(Program& program, FileSystem& files) {
 void LoadMainWindow(Program& program, DesktopServices& services, const Text& programFolder) {
   FrmMain& window = program.Window();
   services.Report.SetRunValues([&] { return ValuesOf(program, services.Files); });
+  Skin skin(window, services.Files, programFolder);
+  ApplySkin(skin, services.Settings);
   const bool isFirstStart = UpgradeSettings(services.Registry);
   program.HideLabelsLater(isFirstStart);
   program.Help().Tips.InitBalloonToolTips();
@@ -137,6 +155,7 @@ void LoadMainWindow(Program& program, DesktopServices& services, const Text& pro
   LoadColumns(program, settings);
   LoadOperations(program, services, programFolder);
   LoadKeywords(program, services, programFolder);
+  skin.AssignSounds();
   window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
   window.Controls().Status->setToolTip(ToQString(InterfaceText(TextNumber::PointAtQuestionMark)));
   program.SelectOperation(StoredLastOperation(settings));

@@ -35,6 +35,7 @@ struct ProgramServices {
   FailureReport& Report;
   Prompter& Prompts;
   BoxMemory& Memory;
+  SoundPlayer& Sounds;
   vorlane::Clipboard& Clipboard;
 };
 

@@ -256,16 +256,6 @@ TEST_F(HelpTest, EachControlHasItsBalloon) {
   }
 }
 
-TEST_F(HelpTest, AResetMakesTheTitleDarkAgain) {
-  auto& title = World.Find<QLabel>("lblTitle");
-  QPalette colors = title.palette();
-  colors.setColor(QPalette::WindowText, Qt::white);
-  title.setPalette(colors);
-  PointAtForm();
-  EXPECT_EQ(title.palette().color(QPalette::WindowText),
-            Window.palette().color(QPalette::WindowText));
-}
-
 TEST_F(HelpTest, AResetInHoverModeLeavesTheTipsAlone) {
   const TipWindow* tip = TipNamed(NameOfTip(0));
   World.Main.Help().ResetHoverState();
@@ -331,8 +321,9 @@ TEST(FirstStart, BalloonsStandUntilTheTimerEndsThem) {
   front.show();
   front.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&front));
-  Program again(
-      {world.Files, world.Time, world.Report, world.Prompts, world.Memory, world.Clipboard}, {});
+  Program again({world.Files, world.Time, world.Report, world.Prompts, world.Memory, world.Sounds,
+                 world.Clipboard},
+                {});
   again.Window().InitLayout();
   again.HideLabelsLater(true);
   again.Help().Tips.InitBalloonToolTips();

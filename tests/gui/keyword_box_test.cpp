@@ -53,6 +53,24 @@ TEST_F(KeywordBoxTest, KeysPick) {
   EXPECT_EQ(Tip().TipText(), u"c");
 }
 
+TEST_F(KeywordBoxTest, AWheelPicksOnlyWithTheFocus) {
+  World.Find<QWidget>("lstFileList").setFocus();
+  const QPointF middle = Box.rect().center();
+  QWheelEvent down(middle, Box.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&Box, &down);
+  EXPECT_TRUE(World.Clipboard.Steps.empty());
+  Box.setFocus();
+  QCoreApplication::sendEvent(&Box, &down);
+  EXPECT_EQ(World.Clipboard.Steps.back(), u"<A>");
+}
+
+TEST_F(KeywordBoxTest, AScreenReaderGetsTheHelpOfEachEntry) {
+  EXPECT_EQ(Box.itemData(0, Qt::AccessibleDescriptionRole), "First.\r\nMore.");
+  EXPECT_EQ(Box.itemData(3, Qt::AccessibleDescriptionRole), "");
+  EXPECT_EQ(Box.accessibleName(), "Keyword List");
+}
+
 TEST_F(KeywordBoxTest, ThePickedKeywordKeepsItsSpaces) {
   Pick(1);
   EXPECT_EQ(World.Clipboard.Steps.back(), u" <B> ");

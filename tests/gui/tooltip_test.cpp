@@ -59,8 +59,8 @@ TEST_F(TooltipTest, ANewOneHasTheDefaults) {
   EXPECT_FALSE(tip.Centered());
   EXPECT_EQ(tip.Style(), ClsTooltip::RectangleStyle);
   EXPECT_EQ(tip.Icon(), ClsTooltip::NoIcon);
-  EXPECT_EQ(tip.BackColor(), 0);
-  EXPECT_EQ(tip.ForeColor(), 0);
+  EXPECT_EQ(tip.BackColor(), 0u);
+  EXPECT_EQ(tip.ForeColor(), 0u);
   EXPECT_EQ(tip.Title(), u"");
   EXPECT_EQ(tip.TipText(), u"");
   EXPECT_FALSE(tip.TipFont());
@@ -68,13 +68,13 @@ TEST_F(TooltipTest, ANewOneHasTheDefaults) {
 
 TEST_F(TooltipTest, WhatIsSetIsWhatIsGot) {
   Tip.SetBackColor(0x123456);
-  Tip.SetForeColor(-1);
+  Tip.SetForeColor(0x80000012);
   Tip.SetCentered(true);
   Tip.SetVisibleTime(32000);
   Tip.SetPopupOnDemand(true);
   Tip.SetTipFont(QFont("DejaVu Serif"));
-  EXPECT_EQ(Tip.BackColor(), 0x123456);
-  EXPECT_EQ(Tip.ForeColor(), -1);
+  EXPECT_EQ(Tip.BackColor(), 0x123456u);
+  EXPECT_EQ(Tip.ForeColor(), 0x80000012);
   EXPECT_TRUE(Tip.Centered());
   EXPECT_EQ(Tip.VisibleTime(), 32000);
   EXPECT_TRUE(Tip.PopupOnDemand());

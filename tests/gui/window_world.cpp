@@ -17,7 +17,7 @@ constexpr TimerIntervals ShortIntervals{.FileCounter = 100,
 }  // namespace
 
 WindowWorld::WindowWorld()
-    : Main({Files, Time, Report, Prompts, Memory, Clipboard}, ShortIntervals) {
+    : Main({Files, Time, Report, Prompts, Memory, Sounds, Clipboard}, ShortIntervals) {
   Main.Wildcard().LoadItems(u"");
   Main.Window().InitLayout();
   Main.Show();

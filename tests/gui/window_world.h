@@ -12,6 +12,7 @@
 #include "support/recording_clipboard.h"
 #include "support/recording_prompter.h"
 #include "support/recording_report.h"
+#include "support/recording_sounds.h"
 #include "support/temporary_folder.h"
 #include "ui/program.h"
 #include "ui/qt_text.h"
@@ -47,6 +48,7 @@ struct WindowWorld {
   RecordingReport Report;
   RecordingPrompter Prompts;
   MemoryBoxMemory Memory;
+  RecordingSounds Sounds;
   RecordingClipboard Clipboard;
   Program Main;
 };
