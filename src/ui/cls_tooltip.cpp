@@ -162,7 +162,7 @@ void ClsTooltip::ShowBalloonToolTip(QWidget& control, std::int32_t balloonPositi
   const Twips y = PartOf(TwipsOf(control.height()), row);
   ShowAt(
       {static_cast<int>(Rounded(x / TwipsPerPixel)), static_cast<int>(Rounded(y / TwipsPerPixel))},
-      control, {.Above = row < 2, .Left = column == 0});
+      control, {.Above = row < 2, .To = static_cast<Lean>(column)});
 }
 
 void ClsTooltip::ShowAt(QPoint point, QWidget& client, TipSide side) {

@@ -27,15 +27,13 @@ int BeginBeside(int before, int behind, int length, bool wantsBefore, int first,
   return isBefore ? before : behind;
 }
 
-TipPlace WithStem(QRect body, QPoint anchor, bool above, const QRect& screen) {
-  body.moveLeft(PushedOnto(body, screen).left());
-  const int least = body.left() + StemInset;
-  const int most = std::max(least, body.right() + 1 - StemInset);
-  TipPlace place;
-  place.Body = body;
-  place.Stem = above ? StemEdge::Bottom : StemEdge::Top;
-  place.StemRoot = {std::clamp(anchor.x(), least, most), above ? body.bottom() + 1 : body.top()};
-  return place;
+// A body in the middle is merely pushed back onto the screen.
+int LeftBeside(QSize body, QPoint anchor, Lean to, const QRect& screen) {
+  if (to == Lean::Middle) {
+    return anchor.x() - body.width() / 2;
+  }
+  return BeginBeside(anchor.x() + StemInset - body.width(), anchor.x() - StemInset, body.width(),
+                     to == Lean::Left, screen.left(), screen.right());
 }
 
 int TopBeside(QSize body, QPoint anchor, bool above, const QRect& screen) {
@@ -58,15 +56,17 @@ QRect TipPlace::Window() const {
 }
 
 TipPlace PlaceBalloon(QSize body, QPoint anchor, TipSide side, const QRect& screen) {
-  const int left = BeginBeside(anchor.x() + StemInset - body.width(), anchor.x() - StemInset,
-                               body.width(), side.Left, screen.left(), screen.right());
   const int top = TopBeside(body, anchor, side.Above, screen);
-  return WithStem({{left, top}, body}, anchor, top < anchor.y(), screen);
-}
-
-TipPlace PlaceCenteredBalloon(QSize body, QPoint anchor, const QRect& screen) {
-  const int top = TopBeside(body, anchor, false, screen);
-  return WithStem({{anchor.x() - body.width() / 2, top}, body}, anchor, top < anchor.y(), screen);
+  const bool isAbove = top < anchor.y();
+  TipPlace place;
+  place.Body = {{LeftBeside(body, anchor, side.To, screen), top}, body};
+  place.Body.moveLeft(PushedOnto(place.Body, screen).left());
+  const int least = place.Body.left() + StemInset;
+  const int most = std::max(least, place.Body.right() + 1 - StemInset);
+  place.Stem = isAbove ? StemEdge::Bottom : StemEdge::Top;
+  place.StemRoot = {std::clamp(anchor.x(), least, most),
+                    isAbove ? place.Body.bottom() + 1 : place.Body.top()};
+  return place;
 }
 
 TipPlace PlaceRectangle(QSize body, QPoint anchor, bool centered, const QRect& screen) {

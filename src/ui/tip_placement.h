@@ -5,11 +5,12 @@
 
 namespace vorlane {
 
-// To which side of its anchor a tip would like to lie. It lies on the other one if the screen has
-// no room there.
+enum class Lean : unsigned char { Left, Middle, Right };
+
+// How a balloon would like to lie to its anchor. It lies otherwise if the screen has no room there.
 struct TipSide {
   bool Above = true;
-  bool Left = false;
+  Lean To = Lean::Right;
 
   bool operator==(const TipSide&) const = default;
 };
@@ -31,9 +32,6 @@ inline constexpr int StemWidth = 12;
 // A balloon: its stem's point is the anchor, its body lies beside it. The balloon is as wholly on
 // the screen as its size permits.
 TipPlace PlaceBalloon(QSize body, QPoint anchor, TipSide side, const QRect& screen);
-
-// A balloon whose stem leaves the middle of its upper edge.
-TipPlace PlaceCenteredBalloon(QSize body, QPoint anchor, const QRect& screen);
 
 // A plain rectangle with its upper left corner, or the middle of its upper edge, at the anchor; it
 // is pushed back onto the screen.

@@ -127,13 +127,11 @@ TipWindow::Blocks TipWindow::Arrange() const {
 void TipWindow::PlaceAt(QPoint anchor, TipSide side, bool centered) {
   const QSize body = Arrange().Body;
   const QRect screen = ScreenAt(anchor, *this);
-  if (!balloon_) {
-    place_ = PlaceRectangle(body, anchor, centered, screen);
-  } else if (centered) {
-    place_ = PlaceCenteredBalloon(body, anchor, screen);
-  } else {
-    place_ = PlaceBalloon(body, anchor, side, screen);
+  if (centered) {
+    side = {.Above = false, .To = Lean::Middle};
   }
+  place_ = balloon_ ? PlaceBalloon(body, anchor, side, screen)
+                    : PlaceRectangle(body, anchor, centered, screen);
   setGeometry(place_.Window());
   TakeShape();
   update();

@@ -199,6 +199,23 @@ TEST_F(HelpTest, BalloonsOfHiddenButtonsLieBelow) {
   EXPECT_EQ(log.LastBalloons(7), TipNames({0, 3, 5, 7, 8, 9, 10}));
 }
 
+TEST_F(HelpTest, NoBalloonOfAVisibleControlCoversAnother) {
+  for (const QPoint corner : {QPoint(150, 200), QPoint(150, 10)}) {
+    Window.move(corner);
+    PointAtHelp();
+    const int visible[] = {0, 2, 4, 6, 8, 9, 10};
+    for (const int one : visible) {
+      for (const int other : visible) {
+        const bool overlap =
+            one != other &&
+            TipNamed(NameOfTip(one))->geometry().intersects(TipNamed(NameOfTip(other))->geometry());
+        EXPECT_FALSE(overlap) << one << " " << other << " at " << corner.y();
+      }
+    }
+    PointAtForm();
+  }
+}
+
 TEST_F(HelpTest, BothBalloonsOfAPairAreEquallyLarge) {
   PointAtHelp();
   for (const int index : {0, 2, 4, 6}) {

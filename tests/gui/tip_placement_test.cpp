@@ -18,18 +18,18 @@ struct Case {
 
 TEST(TipPlacement, BalloonsFlipWhereTheScreenHasNoRoom) {
   const Case cases[] = {
-      {{500, 400}, {true, false}, true, 500 - 18},
-      {{500, 400}, {true, true}, true, 518 - 200},
-      {{500, 400}, {false, false}, false, 500 - 18},
-      {{500, 400}, {false, true}, false, 518 - 200},
-      {{500, 74}, {true, false}, true, 500 - 18},
-      {{500, 73}, {true, false}, false, 500 - 18},
-      {{500, 726}, {false, false}, false, 500 - 18},
-      {{500, 727}, {false, false}, true, 500 - 18},
-      {{818, 400}, {true, false}, true, 800},
-      {{819, 400}, {true, false}, true, 819 + 18 - 200},
-      {{182, 400}, {true, true}, true, 0},
-      {{181, 400}, {true, true}, true, 181 - 18},
+      {{500, 400}, {true, Lean::Right}, true, 500 - 18},
+      {{500, 400}, {true, Lean::Left}, true, 518 - 200},
+      {{500, 400}, {false, Lean::Right}, false, 500 - 18},
+      {{500, 400}, {false, Lean::Left}, false, 518 - 200},
+      {{500, 74}, {true, Lean::Right}, true, 500 - 18},
+      {{500, 73}, {true, Lean::Right}, false, 500 - 18},
+      {{500, 726}, {false, Lean::Right}, false, 500 - 18},
+      {{500, 727}, {false, Lean::Right}, true, 500 - 18},
+      {{818, 400}, {true, Lean::Right}, true, 800},
+      {{819, 400}, {true, Lean::Right}, true, 819 + 18 - 200},
+      {{182, 400}, {true, Lean::Left}, true, 0},
+      {{181, 400}, {true, Lean::Left}, true, 181 - 18},
   };
   for (const Case& c : cases) {
     const TipPlace place = PlaceBalloon(Body, c.Anchor, c.Side, Screen);
@@ -53,16 +53,17 @@ TEST(TipPlacement, AnAnchorOffTheScreenKeepsTheBalloonOnIt) {
 }
 
 TEST(TipPlacement, ABalloonLargerThanTheScreenKeepsItsWantedSide) {
-  const TipPlace place = PlaceBalloon({1200, 900}, {500, 400}, {true, false}, Screen);
+  const TipPlace place = PlaceBalloon({1200, 900}, {500, 400}, {true, Lean::Right}, Screen);
   EXPECT_EQ(place.Body.left(), 0);
   EXPECT_EQ(place.Stem, StemEdge::Bottom);
 }
 
-TEST(TipPlacement, CenteredBalloonsHangBelowTheirAnchor) {
-  TipPlace place = PlaceCenteredBalloon(Body, {500, 400}, Screen);
+TEST(TipPlacement, BalloonsInTheMiddleArePushedBack) {
+  const TipSide below{false, Lean::Middle};
+  TipPlace place = PlaceBalloon(Body, {500, 400}, below, Screen);
   EXPECT_EQ(place.Body, QRect(QPoint(400, 414), Body));
   EXPECT_EQ(place.Stem, StemEdge::Top);
-  place = PlaceCenteredBalloon(Body, {50, 790}, Screen);
+  place = PlaceBalloon(Body, {50, 790}, below, Screen);
   EXPECT_EQ(place.Body, QRect(QPoint(0, 790 - 14 - 60), Body));
   EXPECT_EQ(place.Stem, StemEdge::Bottom);
   EXPECT_EQ(place.StemRoot.x(), 50);
