@@ -6,7 +6,13 @@
 
 namespace vorlane {
 
-AplayPlayer::~AplayPlayer() = default;
+AplayPlayer::~AplayPlayer() {
+  constexpr int MostMilliseconds = 1000;
+  if (process_) {
+    process_->kill();
+    process_->waitForFinished(MostMilliseconds);
+  }
+}
 
 // A player that holds the sound card may take its time to end: nobody waits for it.
 void AplayPlayer::Stop() {

@@ -219,10 +219,10 @@ TEST_F(GripTest, AMaximizedWindowHasNoGrip) {
   Move(1020, 518);
   Window.showMaximized();
   ASSERT_TRUE(WindowWorld::WaitFor([&] { return Window.width() > 1300; })) << Window.width();
-  EXPECT_EQ(Window.cursor().shape(), Qt::ArrowCursor);
+  EXPECT_NE(Window.cursor().shape(), Qt::SizeFDiagCursor);
   const QPoint corner(Window.width() - 3, Window.height() - 3);
   Move(corner.x(), corner.y());
-  EXPECT_EQ(Window.cursor().shape(), Qt::ArrowCursor);
+  EXPECT_NE(Window.cursor().shape(), Qt::SizeFDiagCursor);
   Press(corner.x(), corner.y());
   Move(corner.x() - 100, corner.y() - 100);
   EXPECT_FALSE(Outline.isVisible());

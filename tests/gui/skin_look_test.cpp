@@ -187,5 +187,28 @@ TEST_F(SkinLookTest, AClickOnTheTitleIsPassedOn) {
   EXPECT_EQ(clicks, 1);
 }
 
+// A bar that reaches into the strip shares the form's mouse; the outline alone is the form's.
+TEST_F(SkinLookTest, TheGripWorksThroughABar) {
+  Write(u"BottomBar.gif", Plain(1200, 200, Qt::black));
+  LoadUnscaled();
+  int hoverResets = 0;
+  int rightPresses = 0;
+  Window.OnHoverReset = [&] { ++hoverResets; };
+  Window.OnRightPress = [&] { ++rightPresses; };
+  QWindow* window = Window.windowHandle();
+  QTest::mouseMove(window, {1005, 450});
+  EXPECT_EQ(Window.cursor().shape(), Qt::ArrowCursor);
+  QTest::mouseMove(window, {1016, 450});
+  EXPECT_EQ(Window.cursor().shape(), Qt::SizeHorCursor);
+  EXPECT_EQ(hoverResets, 2);
+  QTest::mousePress(window, Qt::LeftButton, {}, {1016, 450});
+  QTest::mouseMove(window, {1100, 450});
+  EXPECT_FALSE(Find<QWidget>("frmBorder").isVisible());
+  QTest::mouseRelease(window, Qt::LeftButton, {}, {1100, 450});
+  EXPECT_EQ(Window.width(), 1100);
+  QTest::mouseClick(window, Qt::RightButton, {}, {1000, 450});
+  EXPECT_EQ(rightPresses, 1);
+}
+
 }  // namespace
 }  // namespace vorlane
