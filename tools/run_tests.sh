@@ -68,6 +68,7 @@ replay() { # replay PRESET
     id3*) seeds=tests/data/id3 ;;
     exif*) seeds=tests/data/exif ;;
     catalogue*) seeds="fuzz/corpus/catalogue data" ;;
+    keyword_list*) seeds="fuzz/corpus/keyword_list data" ;;
     *) seeds=fuzz/corpus/$(basename "$target" _replay) ;;
     esac
     # shellcheck disable=SC2086  # several folders

@@ -23,7 +23,9 @@ struct DesktopServices {
   // Message boxes go to `prompts`, which outlives this.
   explicit DesktopServices(Prompter& prompts);
 
-  ProgramServices ForProgram() { return {Files, Time, Report, Prompts, Memory, *Sounds}; }
+  ProgramServices ForProgram() {
+    return {Files, Time, Report, Prompts, Memory, *Sounds, Clipboard};
+  }
   ShutDownServices ForShutDown() { return {Files, Settings, Registry}; }
 
   Prompter& Prompts;

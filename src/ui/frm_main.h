@@ -40,6 +40,9 @@ class FrmMain final : public QWidget {
   void ShowStatus(const QString& text);
   void ShowFileStatus(const QString& text);
 
+  // The title is lit while the mouse is on it.
+  void ShowMouseOnTitle(bool isThere);
+
   // May the window be closed now? Asked at each attempt.
   std::function<bool()> OnClose;
   std::function<void()> OnFirstActivation;
@@ -79,7 +82,6 @@ class FrmMain final : public QWidget {
   void PlaceControls();
   void PlaceStatus();
   void TakeTitleEvent(const QEvent& event);
-  void ShowMouseOnTitle(bool isThere);
 
   FormControls controls_;
   FormBackground background_;

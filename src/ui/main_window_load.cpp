@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "catalogue/keyword_list.h"
 #include "catalogue/operations_file.h"
 #include "platform/interface_texts.h"
 #include "platform/program_folder.h"
@@ -60,13 +61,17 @@ void LoadColumns(Program& program, Settings& settings) {
   }
 }
 
+void TellMissing(Prompter& prompts, const Text& folder, TextView name) {
+  Text message = u"'";
+  message.append(folder).append(name).append(u"'");
+  message.append(InterfaceText(TextNumber::IsMissing));
+  prompts.Show(BoxIcon::Stop, ApplicationTitle, message);
+}
+
 void LoadOperations(Program& program, DesktopServices& services, const Text& folder) {
   auto tree = LoadOperationsFile(services.Files, folder);
   if (!tree) {
-    Text message = u"'";
-    message.append(folder).append(OperationsFileName).append(u"'");
-    message.append(InterfaceText(TextNumber::IsMissing));
-    services.Prompts.Show(BoxIcon::Stop, ApplicationTitle, message);
+    TellMissing(services.Prompts, folder, OperationsFileName);
     program.Window().Controls().Go->setEnabled(false);
     return;
   }
@@ -74,6 +79,19 @@ void LoadOperations(Program& program, DesktopServices& services, const Text& fol
   program.ShowOperations(*std::move(tree));
   if (failure) {
     services.Report.ReportError(FormName, u"LoadInterfaceElements", u"", *failure);
+  }
+}
+
+void LoadKeywords(Program& program, DesktopServices& services, const Text& folder) {
+  auto list = LoadKeywordListFile(services.Files, folder);
+  if (!list) {
+    TellMissing(services.Prompts, folder, KeywordListFileName);
+    return;
+  }
+  const auto failure = list->Failure;
+  program.ShowKeywords(*std::move(list));
+  if (failure) {
+    services.Report.ReportError(FormName, u"LoadKeywordListFromFile", u"", *failure);
   }
 }
 
@@ -131,10 +149,12 @@ void LoadMainWindow(Program& program, DesktopServices& services, const Text& pro
   ApplySkin(skin, services.Settings);
   const bool isFirstStart = UpgradeSettings(services.Registry);
   program.HideLabelsLater(isFirstStart);
+  program.Help().Tips.InitBalloonToolTips();
   Settings& settings = services.Settings;
   program.Wildcard().LoadItems(settings.GetSetting(SettingsSection, SettingKey::WildCards, u""));
   LoadColumns(program, settings);
   LoadOperations(program, services, programFolder);
+  LoadKeywords(program, services, programFolder);
   skin.AssignSounds();
   window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
   window.Controls().Status->setToolTip(ToQString(InterfaceText(TextNumber::PointAtQuestionMark)));

@@ -10,6 +10,9 @@ namespace vorlane {
 
 namespace {
 
+// How long the balloons of a first start stand.
+constexpr int FirstStartMilliseconds = 10'000;
+
 // Tells when a box gets or loses the focus. Another window in front, or a list that has opened, is
 // no leaving of the box.
 class FocusWatch final : public QObject {
@@ -54,6 +57,9 @@ Program::Program(const ProgramServices& services, const TimerIntervals& interval
       timers_(intervals),
       window_({services.Files, services.Prompts, services.Sounds}),
       browser_(form_, services_, list_, *window_.Controls().Folders),
+      help_(window_, services.Report),
+      keywords_(*window_.Controls().Keywords, form_, services.Clipboard,
+                [this]() -> ClsTooltip& { return help_.Tips.KeywordTip(); }),
       keys_(window_) {
   presenter_.Attach(form_, window_, gate_, timers_);
   ConnectButtons();
@@ -62,6 +68,7 @@ Program::Program(const ProgramServices& services, const TimerIntervals& interval
   ConnectBoxes();
   ConnectTimers();
   ConnectKeys();
+  ConnectHelp();
   ConnectWindow();
 }
 
@@ -92,7 +99,6 @@ void Program::Show() {
 }
 
 void Program::HideLabelsLater(bool isFirstStart) {
-  constexpr int FirstStartMilliseconds = 10'000;
   if (isFirstStart) {
     timers_.tmrHideAllLabels.setInterval(FirstStartMilliseconds);
   }
@@ -223,7 +229,11 @@ void Program::ConnectKeys() {
       Go();
     }
   };
-  keys_.OnStop = [this] { Stop(); };
+  keys_.OnStop = [this] {
+    help_.ResetHoverState();
+    Stop();
+  };
+  keys_.OnHelp = [this] { help_.Toggle(); };
   keys_.OnUndo = [this] {
     if (form_.UndoEnabled) {
       Undo();
@@ -242,10 +252,23 @@ void Program::ConnectKeys() {
   keys_.OnNextPane = [this](bool back) { FocusNextPane(back); };
 }
 
+void Program::ConnectHelp() {
+  QObject::connect(&timers_.tmrHideAllLabels, &QTimer::timeout, &window_,
+                   [this] { help_.Tips.InitBalloonToolTips(); });
+  QComboBox* keywords = window_.Controls().Keywords;
+  QObject::connect(keywords, &QComboBox::activated, &window_, [this](int entry) {
+    gate_.Run([this, entry] { keywords_.cboKeywords_Click(entry); });
+  });
+}
+
 void Program::ConnectWindow() {
   window_.OnFirstActivation = [this] {
     listTimers_.FirstActivation();
     timers_.tmrFileCounter.start();
+    const QTimer& hiding = timers_.tmrHideAllLabels;
+    if (hiding.isActive() && hiding.interval() == FirstStartMilliseconds) {
+      help_.Tips.ShowAllBalloonLabels();
+    }
   };
   window_.OnMaximized = [this] { form_.RestartTimer(FormTimer::AutoPreview); };
   window_.OnPointerReset = [this] { form_.Pointer = MousePointer::Default; };
@@ -310,6 +333,7 @@ bool Program::MayClose() {
   }
   closed_ = true;
   gate_.Close();  // what happens while the window fades away starts nothing
+  help_.Tips.Unload();
   if (OnClosing) {
     OnClosing();
   }

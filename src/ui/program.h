@@ -20,6 +20,8 @@
 #include "ui/event_gate.h"
 #include "ui/form_presenter.h"
 #include "ui/frm_main.h"
+#include "ui/hover_help.h"
+#include "ui/keyword_box.h"
 #include "ui/qt_message_loop.h"
 #include "ui/window_keys.h"
 #include "ui/window_timers.h"
@@ -34,6 +36,7 @@ struct ProgramServices {
   Prompter& Prompts;
   BoxMemory& Memory;
   SoundPlayer& Sounds;
+  vorlane::Clipboard& Clipboard;
 };
 
 class Program {
@@ -42,6 +45,9 @@ class Program {
 
   // Fills the operations tree; a tree whose reading failed is shown as far as it was read.
   void ShowOperations(OperationsTree tree);
+
+  // Fills the keyword list.
+  void ShowKeywords(KeywordList list) { keywords_.LoadKeywords(std::move(list)); }
 
   // Selects an operation as a click on it does; the first one if there is none of that index.
   void SelectOperation(std::int32_t index);
@@ -62,7 +68,7 @@ class Program {
   // The same when nobody is there to answer: a message box that is open is closed first.
   void CloseUnattended();
 
-  // The start of the timer that ends the show of labels. It takes longer at a first start.
+  // The start of the timer that ends the show of balloons, which stand longer at a first start.
   void HideLabelsLater(bool isFirstStart);
 
   FrmMain& Window() { return window_; }
@@ -71,6 +77,7 @@ class Program {
   FolderBrowser& Browser() { return browser_; }
   WindowTimers& Timers() { return timers_; }
   EventGate& Gate() { return gate_; }
+  HoverHelp& Help() { return help_; }
 
   MessageLoop& Loop() { return loop_; }
 
@@ -90,6 +97,7 @@ class Program {
   void ConnectBoxes();
   void ConnectTimers();
   void ConnectKeys();
+  void ConnectHelp();
   void ConnectWindow();
   bool MayClose();
   void RefreshFolders();
@@ -117,6 +125,8 @@ class Program {
   WindowTimers timers_;
   FrmMain window_;
   FolderBrowser browser_;
+  HoverHelp help_;
+  KeywordBox keywords_;
   WindowKeys keys_;
   OperationsTree operations_;
   bool goWaits_ = false;

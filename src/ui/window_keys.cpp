@@ -50,6 +50,8 @@ bool WindowKeys::TakeKey(const QKeyEvent& key) {
       return plain && Call(OnStop);
     case Qt::Key_Tab:
       return plain && OnTab && OnTab();
+    case Qt::Key_F1:
+      return plain && (key.isAutoRepeat() || Call(OnHelp));
     case Qt::Key_F5:
       return plain && Call(OnListAnew);
     case Qt::Key_F6:

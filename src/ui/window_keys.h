@@ -17,6 +17,7 @@ class WindowKeys final : public QObject {
   std::function<void()> OnGo;                 // ENTER
   std::function<void()> OnStop;               // Escape
   std::function<void()> OnUndo;               // Ctrl+Z
+  std::function<void()> OnHelp;               // F1
   std::function<void()> OnListAnew;           // F5
   std::function<void()> OnClose;              // Ctrl+Q
   std::function<bool()> OnTab;                // true if the focus went to an option box

@@ -12,8 +12,13 @@ constexpr const char* Operations =
     "Operation Name:\tOne\r\nStep: x<FILENAME>\r\nHelp Message: h1\r\nAvailable Boxes: 0\r\n"
     "Operation Name:\tTwo\r\nStep: y<FILENAME>\r\nHelp Message: h2\r\nAvailable Boxes: 0\r\n";
 
+constexpr const char* Keywords = "<A>\r\n'First. More.\r\n\r\n<B>";
+
 struct MainWindowLoadTest : testing::Test {
-  MainWindowLoadTest() { Folder.Write("program/Operations.ini", Operations); }
+  MainWindowLoadTest() {
+    Folder.Write("program/Operations.ini", Operations);
+    Folder.Write("program/KeywordList.ini", Keywords);
+  }
 
   struct Run {
     Run(Prompter& prompts, const Text& folder)
@@ -177,6 +182,37 @@ TEST_F(MainWindowLoadTest, OnlyA1IsMaximized) {
   EXPECT_TRUE(Load().Main.Window().isMaximized());
   Store(u"Maximized", u"True");
   EXPECT_FALSE(Load().Main.Window().isMaximized());
+}
+
+TEST_F(MainWindowLoadTest, TheKeywordsAreListed) {
+  Run& run = Load();
+  EXPECT_TRUE(Prompts.Boxes.empty());
+  QComboBox& box = *run.Main.Window().Controls().Keywords;
+  ASSERT_EQ(box.count(), 2);
+  EXPECT_EQ(box.itemText(0), "<A>");
+  EXPECT_EQ(box.currentIndex(), -1);
+  emit box.activated(0);
+  EXPECT_EQ(run.Main.Help().Tips.KeywordTip().TipText(), u"First.\r\nMore.");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "<A>");
+}
+
+TEST_F(MainWindowLoadTest, AMissingKeywordListIsTold) {
+  ASSERT_TRUE(QFile::remove(ToQString(Folder.TextPath() + u"program/KeywordList.ini")));
+  Run& run = Load();
+  ASSERT_EQ(Prompts.Boxes.size(), 1u);
+  EXPECT_EQ(Prompts.Boxes[0].Icon, BoxIcon::Stop);
+  EXPECT_EQ(Prompts.Boxes[0].Message,
+            u"'" + Folder.TextPath() + u"program/KeywordList.ini' is missing");
+  EXPECT_EQ(run.Main.Window().Controls().Keywords->count(), 0);
+  EXPECT_TRUE(run.Main.Window().Controls().Go->isEnabled());
+}
+
+TEST_F(MainWindowLoadTest, OnlyAFirstStartTakesTenSecondsForTheBalloons) {
+  EXPECT_EQ(Load().Main.Timers().tmrHideAllLabels.interval(), 10000);
+  Store(u"Width", u"18000");
+  Run& run = Load();
+  EXPECT_EQ(run.Main.Timers().tmrHideAllLabels.interval(), 3000);
+  EXPECT_TRUE(run.Main.Timers().tmrHideAllLabels.isActive());
 }
 
 TEST_F(MainWindowLoadTest, AMissingCatalogueIsToldAndBarsGo) {

@@ -16,7 +16,8 @@ constexpr TimerIntervals ShortIntervals{.FileCounter = 100,
 
 }  // namespace
 
-WindowWorld::WindowWorld() : Main({Files, Time, Report, Prompts, Memory, Sounds}, ShortIntervals) {
+WindowWorld::WindowWorld()
+    : Main({Files, Time, Report, Prompts, Memory, Sounds, Clipboard}, ShortIntervals) {
   Main.Wildcard().LoadItems(u"");
   Main.Window().InitLayout();
   Main.Show();

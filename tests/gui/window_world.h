@@ -9,6 +9,7 @@
 #include "catalogue/operations_tree.h"
 #include "platform/posix_file_system.h"
 #include "support/memory_box_memory.h"
+#include "support/recording_clipboard.h"
 #include "support/recording_prompter.h"
 #include "support/recording_report.h"
 #include "support/recording_sounds.h"
@@ -48,6 +49,7 @@ struct WindowWorld {
   RecordingPrompter Prompts;
   MemoryBoxMemory Memory;
   RecordingSounds Sounds;
+  RecordingClipboard Clipboard;
   Program Main;
 };
 
