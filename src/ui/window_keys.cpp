@@ -52,6 +52,10 @@ bool WindowKeys::TakeKey(const QKeyEvent& key) {
       return plain && OnTab && OnTab();
     case Qt::Key_F5:
       return plain && Call(OnListAnew);
+    case Qt::Key_Menu:
+      return plain && (key.isAutoRepeat() || Call(OnMenu));
+    case Qt::Key_F10:
+      return key.modifiers() == Qt::ShiftModifier && (key.isAutoRepeat() || Call(OnMenu));
     case Qt::Key_F6:
       if (OnNextPane) {
         OnNextPane((key.modifiers() & Qt::ShiftModifier) != 0);
