@@ -19,9 +19,13 @@ struct WindowPlacement {
   bool operator==(const WindowPlacement&) const = default;
 };
 
+// The least size of the window, on every screen.
+inline constexpr Twips MinFormWidth = 996 * TwipsPerPixel;
+inline constexpr Twips MinFormHeight = 453 * TwipsPerPixel;
+
 struct SizeLimits {
-  Twips MinWidth = 996 * TwipsPerPixel;
-  Twips MinHeight = 453 * TwipsPerPixel;
+  Twips MinWidth = MinFormWidth;
+  Twips MinHeight = MinFormHeight;
   Twips ScreenWidth = 0;
   Twips ScreenHeight = 0;
 };

@@ -31,15 +31,19 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
+FrmMain::FrmMain(FileSystem& files) : controls_(*this, files), grip_(*this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
+  setMouseTracking(true);
   for (const FormControlPlace& control : layout_.Controls()) {
     auto* widget = findChild<QWidget*>(NameOf(control), Qt::FindDirectChildrenOnly);
     widget->setVisible(control.VisibleAtFirst);
     if (control.Kind == ControlKind::Label) {
       widget->setFont(LabelFont(control.Name == "lblTitle"));
     }
+    // What a control leaves of the mouse isn't the form's: a right press on it opens no menu there.
+    widget->setAttribute(Qt::WA_NoMousePropagation);
+    widget->installEventFilter(this);
     widget->raise();
     placed_.push_back(widget);
   }
@@ -50,7 +54,14 @@ FrmMain::FrmMain(FileSystem& files) : controls_(*this, files) {
     }
     before = next;
   }
-  controls_.FileStatus->installEventFilter(this);
+  for (QWidget* bar : {controls_.TopBar, controls_.BottomBar}) {
+    bar->setMouseTracking(true);
+  }
+  grip_.OnPointerReset = [this] {
+    if (OnPointerReset) {
+      OnPointerReset();
+    }
+  };
   resize(PixelsOf(DesignWidth), PixelsOf(DesignHeight));
   PlaceControls();
   ShowFileStatus({});
@@ -136,6 +147,7 @@ void FrmMain::resizeEvent(QResizeEvent* event) {
 void FrmMain::TakeWindowState() {
   if (isMaximized()) {
     pendingRestore_ = true;
+    grip_.Disarm();
   }
   if (isMinimized() || inResize_) {
     return;
@@ -163,7 +175,78 @@ void FrmMain::closeEvent(QCloseEvent* event) {
   event->setAccepted(!OnClose || OnClose());
 }
 
+// The form and the two bars share what follows.
+void FrmMain::MousePressed(const QMouseEvent& event) {
+  if (event.button() == Qt::RightButton && OnRightPress) {
+    OnRightPress();
+  }
+}
+
+void FrmMain::MouseMoved(QPointF position) {
+  grip_.HitTestResizeGrip(position);
+  if (OnHoverReset) {
+    OnHoverReset();
+  }
+}
+
+// The size changes once, and only then everything is laid out.
+void FrmMain::MouseReleased(const QMouseEvent& event) {
+  const auto size = grip_.FinishDragResize(event.globalPosition().toPoint());
+  if (!size) {
+    return;
+  }
+  {
+    const QScopedValueRollback resizing(inResize_, true);
+    resize(*size);
+  }
+  ResizeIfChanged();
+}
+
+void FrmMain::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && !KnowsPlaces()) {
+    grip_.PressedWithoutPlaces();
+  }
+  MousePressed(*event);
+}
+
+void FrmMain::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint cursor = event->globalPosition().toPoint();
+  MouseMoved(event->position());
+  grip_.DragStep(cursor);
+}
+
+void FrmMain::mouseReleaseEvent(QMouseEvent* event) {
+  MouseReleased(*event);
+}
+
+bool FrmMain::TakeBarEvent(const QWidget& bar, const QEvent& event) {
+  const auto mouse = [&event]() -> const QMouseEvent& {
+    return static_cast<const QMouseEvent&>(event);
+  };
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      MousePressed(mouse());
+      return true;
+    case QEvent::MouseMove:
+      MouseMoved(bar.mapToParent(mouse().position()));
+      return true;
+    case QEvent::MouseButtonRelease:
+      MouseReleased(mouse());
+      return true;
+    default:
+      return false;
+  }
+}
+
 bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Enter) {
+    grip_.Disarm();  // a quick mouse leaves the strip unseen
+  }
+  if (watched == controls_.TopBar || watched == controls_.BottomBar) {
+    return TakeBarEvent(*static_cast<QWidget*>(watched), *event) ||
+           QWidget::eventFilter(watched, event);
+  }
   if (watched == controls_.FileStatus && event->type() == QEvent::MouseButtonDblClick &&
       OnFileStatusDoubleClicked) {
     OnFileStatusDoubleClicked();

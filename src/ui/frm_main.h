@@ -7,6 +7,7 @@
 #include "layout/main_form_layout.h"
 #include "layout/window_placement.h"
 #include "ui/form_controls.h"
+#include "ui/form_grip.h"
 
 namespace vorlane {
 
@@ -37,7 +38,20 @@ class FrmMain final : public QWidget {
   std::function<void()> OnMaximized;
   std::function<void()> OnRestored;  // from maximized to normal
 
+  // The right button went down on the form or one of the two bars.
+  std::function<void()> OnRightPress;
+
+  // The mouse moved over the form or one of the two bars: whatever was shown for a control that it
+  // was over goes.
+  std::function<void()> OnHoverReset;
+
+  // The form's cursor has become the default one by a mouse move.
+  std::function<void()> OnPointerReset;
+
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -45,12 +59,17 @@ class FrmMain final : public QWidget {
 
  private:
   void TakeWindowState();
+  bool TakeBarEvent(const QWidget& bar, const QEvent& event);
+  void MousePressed(const QMouseEvent& event);
+  void MouseMoved(QPointF position);
+  void MouseReleased(const QMouseEvent& event);
   void ResizeIfChanged();
   void PlaceControls();
   void PlaceStatus();
 
   FormControls controls_;
   MainFormLayout layout_;
+  FormGrip grip_;
   std::vector<QWidget*> placed_;  // by the layout's order
   QString status_;
   bool measured_ = false;

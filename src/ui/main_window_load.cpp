@@ -19,11 +19,6 @@ constexpr Column AllColumns[] = {Column::CurrentName, Column::ProposedName, Colu
                                  Column::Title,       Column::ID3v1,        Column::ID3v2,
                                  Column::ReadOnly,    Column::Path};
 
-// A program on Wayland is told nothing of its window's place.
-bool KnowsPlaces() {
-  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 class WindowAtExit final : public ClosingWindow {
  public:
   WindowAtExit(FrmMain& window, Settings& settings) : window_(window), settings_(settings) {}

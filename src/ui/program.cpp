@@ -261,6 +261,7 @@ void Program::ConnectWindow() {
     timers_.tmrFileCounter.start();
   };
   window_.OnMaximized = [this] { form_.RestartTimer(FormTimer::AutoPreview); };
+  window_.OnPointerReset = [this] { form_.Pointer = MousePointer::Default; };
   window_.OnClose = [this] { return MayClose(); };
   gate_.OnIdle = [this] {
     presenter_.Refresh();
