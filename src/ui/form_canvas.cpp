@@ -21,12 +21,12 @@ int NearestPixel(double pixels) {
 FormCanvas::FormCanvas(double pixelRatio) : pixelRatio_(pixelRatio) {}
 
 QPoint FormCanvas::PixelOf(CanvasPoint point) const {
-  const double unit = ScaleMode == vorlane::ScaleMode::Twips ? TwipsPerPixel : 1;
+  const double unit = ScaleMode == vorlane::ScaleMode::InTwips ? TwipsPerPixel : 1;
   return {NearestPixel(point.X / unit), NearestPixel(point.Y / unit)};
 }
 
 double FormCanvas::LengthOf(int pixels) const {
-  return ScaleMode == vorlane::ScaleMode::Twips ? TwipsOf(pixels) : pixels;
+  return ScaleMode == vorlane::ScaleMode::InTwips ? TwipsOf(pixels) : pixels;
 }
 
 void FormCanvas::Resize(QSize pixels) {

@@ -15,7 +15,7 @@
 
 namespace vorlane {
 
-enum class ScaleMode { Twips, Pixels };
+enum class ScaleMode { InTwips, InPixels };
 enum class DrawStyle { Solid, Dots };
 
 struct CanvasPoint {
@@ -58,7 +58,7 @@ class FormCanvas {
 
   ColorNumber BackColor = 0xFFFFFF;
   ColorNumber ForeColor = 0;
-  vorlane::ScaleMode ScaleMode = vorlane::ScaleMode::Twips;
+  vorlane::ScaleMode ScaleMode = vorlane::ScaleMode::InTwips;
   vorlane::DrawStyle DrawStyle = vorlane::DrawStyle::Solid;
   CanvasPoint Current;
   QFont Font;

@@ -11,12 +11,12 @@ namespace vorlane {
 namespace {
 
 // Measures in pixels while it lives.
-class InPixels {
+class PixelScale {
  public:
-  explicit InPixels(FormCanvas& canvas) : canvas_(canvas), before_(PrepareCanvas(canvas)) {}
-  ~InPixels() { canvas_.ScaleMode = before_; }
-  InPixels(const InPixels&) = delete;
-  InPixels& operator=(const InPixels&) = delete;
+  explicit PixelScale(FormCanvas& canvas) : canvas_(canvas), before_(PrepareCanvas(canvas)) {}
+  ~PixelScale() { canvas_.ScaleMode = before_; }
+  PixelScale(const PixelScale&) = delete;
+  PixelScale& operator=(const PixelScale&) = delete;
 
  private:
   FormCanvas& canvas_;
@@ -42,12 +42,12 @@ FrameColors CalcFrameColors(const FormCanvas& canvas, const FrameColors& colors)
 }
 
 ScaleMode PrepareCanvas(FormCanvas& canvas) {
-  return std::exchange(canvas.ScaleMode, ScaleMode::Pixels);
+  return std::exchange(canvas.ScaleMode, ScaleMode::InPixels);
 }
 
 void DrawFrameEtched(FormCanvas& canvas, const FrameColors& colors, const FrameCaption& caption,
                      bool sunken) {
-  const InPixels scale(canvas);
+  const PixelScale scale(canvas);
   double right = canvas.ScaleWidth() - 1;
   double bottom = canvas.ScaleHeight() - 1;
   double top = UpperLine(canvas, caption);
@@ -75,7 +75,7 @@ void DrawFrameLayered(FormCanvas& canvas, int layers, const FrameColors& colors,
     boxes.Show(BoxIcon::None, ApplicationTitle, InterfaceText(TextNumber::TooFewLayers));
     return;
   }
-  const InPixels scale(canvas);
+  const PixelScale scale(canvas);
   double right = canvas.ScaleWidth() - 1;
   double bottom = canvas.ScaleHeight() - 1;
   const double upperLine = UpperLine(canvas, caption);
@@ -100,7 +100,7 @@ void DrawFrameLayered(FormCanvas& canvas, int layers, const FrameColors& colors,
 }
 
 void DrawFrameFlat(FormCanvas& canvas, ColorNumber color, int width, const FrameCaption& caption) {
-  const InPixels scale(canvas);
+  const PixelScale scale(canvas);
   const double top = UpperLine(canvas, caption);
   const CanvasPoint last{canvas.ScaleWidth() - 1, canvas.ScaleHeight() - 1};
   const ColorNumber line =
@@ -120,7 +120,7 @@ void DrawFrameCaption(FormCanvas& canvas, const FrameCaption& caption) {
     return;
   }
   constexpr int Gap = 2;  // on each side of the text
-  const InPixels scale(canvas);
+  const PixelScale scale(canvas);
   const QFont before = canvas.Font;
   canvas.Font.setUnderline(caption.Underline);
   const double left = caption.Left;
