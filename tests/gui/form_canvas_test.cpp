@@ -87,7 +87,7 @@ TEST_F(FormCanvasTest, TwipsAreFifteenToAPixel) {
 
 TEST_F(FormCanvasTest, HalfWayBetweenTwoPixelsIsTheUpperOne) {
   Canvas.ScaleMode = ScaleMode::InTwips;
-  Canvas.Line({0, 22.5}, {30, 22.5}, Red);   // 1.5
+  Canvas.Line({0, 22.5}, {30, 22.5}, Red);    // 1.5
   Canvas.Line({30, 32.5}, {90, 32.5}, Blue);  // 2.17
   EXPECT_EQ(Rows(), QStringList({"......", "rr....", "..bbbb", "......"}));
 }

@@ -149,8 +149,12 @@ TEST_F(CaptionTest, AFrameLeavesAGapForItsCaption) {
   const int line = (TextHeight - 1) / 2;  // 6.5 is 6
   Canvas.ForeColor = 0x0000FF;
   const auto drawers = std::vector<std::function<void()>>{
-      [&] { DrawFrameEtched(Canvas, {Light, Dark}, Caption, false); },
-      [&] { DrawFrameLayered(Canvas, 3, {Light, Dark}, Caption, false, Boxes); },
+      [&] {
+        DrawFrameEtched(Canvas, {Light, Dark}, Caption, false);
+      },
+      [&] {
+        DrawFrameLayered(Canvas, 3, {Light, Dark}, Caption, false, Boxes);
+      },
       [&] { DrawFrameFlat(Canvas, Dark, 1, Caption); }};
   for (const auto& draw : drawers) {
     Canvas.Cls();

@@ -28,8 +28,8 @@ inline QStringList PixelRows(const QImage& picture, const std::map<QRgb, char>& 
 inline testing::AssertionResult SamePicture(const QImage& shown, const QImage& expected) {
   if (shown.size() != expected.size()) {
     return testing::AssertionFailure()
-           << "size " << shown.width() << "x" << shown.height() << ", expected "
-           << expected.width() << "x" << expected.height();
+           << "size " << shown.width() << "x" << shown.height() << ", expected " << expected.width()
+           << "x" << expected.height();
   }
   for (int y = 0; y < shown.height(); ++y) {
     for (int x = 0; x < shown.width(); ++x) {
