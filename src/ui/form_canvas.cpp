@@ -96,7 +96,11 @@ void FormCanvas::Box(CanvasPoint from, CanvasPoint to, ColorNumber color) {
 }
 
 void FormCanvas::FilledBox(CanvasPoint from, CanvasPoint to, ColorNumber color) {
-  QPainter(&picture_).fillRect(QRect(PixelOf(from), PixelOf(to)), ToQColor(color));
+  const QPoint first = PixelOf(from);
+  const QPoint last = PixelOf(to);
+  const QPoint upperLeft(std::min(first.x(), last.x()), std::min(first.y(), last.y()));
+  const QPoint lowerRight(std::max(first.x(), last.x()), std::max(first.y(), last.y()));
+  QPainter(&picture_).fillRect(QRect(upperLeft, lowerRight), ToQColor(color));
   Current = to;
 }
 

@@ -43,7 +43,7 @@ class FormCanvas {
 
   // A line leaves its last point out.
   void Line(CanvasPoint from, CanvasPoint to, ColorNumber color);
-  // Both corners are part of a box, the second one to the right and below.
+  // Both corners are part of a box; any two that lie opposite.
   void Box(CanvasPoint from, CanvasPoint to, ColorNumber color);
   void FilledBox(CanvasPoint from, CanvasPoint to, ColorNumber color);
   // All of these leave the current point where they end.

@@ -47,7 +47,7 @@ FrmMenuCtl::FrmMenuCtl(MenuState& menu, QWidget& owner, Prompter& boxes)
 void FrmMenuCtl::Open(Twips left, Twips top) {
   place_ = {left, top, 1, 1};
   TakeGeometry();
-  WatchActivation();
+  WatchOwner();
   if (menu_.Properties.OpenAnimated) {
     show();
     DrawMenu(true, true, true, true);
@@ -58,12 +58,20 @@ void FrmMenuCtl::Open(Twips left, Twips top) {
 }
 
 // Another window in front takes the keys away from a menu, which would then stand there for ever.
-void FrmMenuCtl::WatchActivation() {
+void FrmMenuCtl::WatchOwner() {
+  owner_.window()->installEventFilter(this);
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
-    if (isVisible() && window != windowHandle() && window != owner_.window()->windowHandle()) {
+    if (window != windowHandle() && window != owner_.window()->windowHandle()) {
       Dismiss();
     }
   });
+}
+
+bool FrmMenuCtl::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Hide || event->type() == QEvent::WindowBlocked) {
+    Dismiss();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void FrmMenuCtl::TakeGeometry() {

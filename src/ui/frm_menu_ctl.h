@@ -43,6 +43,7 @@ class FrmMenuCtl final : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void TakeGeometry();
@@ -53,7 +54,7 @@ class FrmMenuCtl final : public QWidget {
   void SetHotRow(int row);
   void StepHotRow(int from, int direction);
   void Answer();
-  void WatchActivation();
+  void WatchOwner();
 
   MenuState& menu_;
   QWidget& owner_;

@@ -58,9 +58,10 @@ TEST_F(FormCanvasTest, ABoxOfOneRowIsALineWithItsEnd) {
   EXPECT_EQ(Rows(), QStringList({"......", ".rrr.b", ".....b", "b....b"}));
 }
 
-TEST_F(FormCanvasTest, AFilledBoxThatEndsBeforeItBeginsDrawsNothing) {
-  Canvas.FilledBox({2, 3}, {4, 0}, Red);
-  EXPECT_EQ(Rows(), QStringList({"......", "......", "......", "......"}));
+TEST_F(FormCanvasTest, ABoxMayBeGivenByAnyTwoCorners) {
+  Canvas.Box({4, 3}, {1, 0}, Red);
+  Canvas.FilledBox({2, 2}, {3, 1}, Blue);
+  EXPECT_EQ(Rows(), QStringList({".rrrr.", ".rbbr.", ".rbbr.", ".rrrr."}));
 }
 
 TEST_F(FormCanvasTest, DotsAreEverySecondPixel) {

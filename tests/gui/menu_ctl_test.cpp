@@ -75,6 +75,7 @@ TEST_F(MenuCtlTest, ADisabledRowChoosesNothing) {
 
 TEST_F(MenuCtlTest, TheOtherSpellingOfALineIsAnItem) {
   Add("", "Separator");
+  Add("Some words", "a");
   Show([&](QWidget& form) { Choose(form, 1); });
   EXPECT_EQ(Clicks, (ClickList{{1, "", "Separator"}}));
 }
@@ -384,7 +385,19 @@ TEST_F(MenuCtlTest, ItGoesWithItsWindow) {
   EXPECT_FALSE(Show([&](QWidget& form) {
     Point(form, 1);
     Owner.hide();
-    EXPECT_FALSE(form.isVisible());
+  }));
+  EXPECT_TRUE(Clicks.empty());
+}
+
+TEST_F(MenuCtlTest, AMessageBoxEndsIt) {
+  Owner.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Owner));
+  QDialog box(&Owner);
+  box.setModal(true);
+  Add("First", "a");
+  EXPECT_FALSE(Show([&](QWidget& form) {
+    Point(form, 1);
+    box.show();
   }));
   EXPECT_TRUE(Clicks.empty());
 }

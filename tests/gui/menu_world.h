@@ -59,6 +59,12 @@ struct MenuWorld : testing::Test {
       ASSERT_NE(form, nullptr);
       act(*form);
     });
+    QTimer patience;  // a menu that doesn't close is a failure, not the end of all tests
+    QObject::connect(&patience, &QTimer::timeout, [] {
+      ADD_FAILURE() << "the menu is still open";
+      QApplication::activePopupWidget()->close();
+    });
+    patience.start(3000);
     return Menu.ShowMenu(at.x(), at.y(), left);
   }
 
