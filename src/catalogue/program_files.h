@@ -1,4 +1,4 @@
-// The files that stand beside the program.
+// The files and folders that stand beside the program.
 #pragma once
 
 #include <optional>
@@ -12,5 +12,8 @@ namespace vorlane {
 // name, or else the only file there whose name differs by case alone. Nothing if there is no such
 // file or the folder can't be read.
 std::optional<Text> FindProgramFile(FileSystem& files, TextView folder, TextView name);
+
+// The same for a folder; its path has a trailing separator.
+std::optional<Text> FindProgramFolder(FileSystem& files, TextView folder, TextView name);
 
 }  // namespace vorlane

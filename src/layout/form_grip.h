@@ -22,13 +22,6 @@ struct TwipsPoint {
   Twips Y = 0;
 };
 
-struct TwipsSize {
-  Twips Width = 0;
-  Twips Height = 0;
-
-  bool operator==(const TwipsSize&) const = default;
-};
-
 // What a pointer at that place of a form of that size takes hold of. The strip's inner edge itself
 // isn't part of it.
 DragMode HitTestResizeGrip(TwipsSize form, TwipsPoint pointer);

@@ -2,19 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
+#include <limits>
 #include <stdexcept>
 
 namespace vorlane {
-
-namespace {
-
-// To the nearest whole number, ties to the even one.
-std::int32_t Rounded(Twips length) {
-  return static_cast<std::int32_t>(std::nearbyint(length));
-}
-
-}  // namespace
 
 FormControlPlace& MainFormLayout::Find(std::string_view name, int index) {
   const auto found =
@@ -31,19 +22,64 @@ const TwipsRect& MainFormLayout::PlaceOf(std::string_view name, int index) const
   return const_cast<MainFormLayout*>(this)->Find(name, index).Place;
 }
 
-void MainFormLayout::InitResizeTags() {
+void MainFormLayout::SetControlSize(std::string_view name, TwipsSize size) {
+  TwipsRect& place = Find(name).Place;
+  place.Width = size.Width;
+  place.Height = size.Height;
+}
+
+void MainFormLayout::ScaleControlPosition(std::string_view name, ScaleFactors factors) {
+  vorlane::ScaleControlPosition(Find(name).Place, factors);
+}
+
+void MainFormLayout::ScaleControlSize(std::string_view name, ScaleFactors factors) {
+  vorlane::ScaleControlSize(Find(name).Place, factors);
+}
+
+void MainFormLayout::ScaleAllControls(ScaleFactors factors) {
+  for (FormControlPlace& control : controls_) {
+    if (control.Kind != ControlKind::Image && control.Kind != ControlKind::Button) {
+      vorlane::ScaleControlPosition(control.Place, factors);
+      vorlane::ScaleControlSize(control.Place, factors);
+    }
+  }
+  TwipsRect form{0, 0, width_, height_};
+  vorlane::ScaleControlSize(form, factors);
+  width_ = form.Width;
+  height_ = form.Height;
+}
+
+// A distance is measured in single precision, of seven digits, and kept as a whole number of 16
+// bits.
+MainFormLayout::Distance MainFormLayout::KeptDistance(Twips distance) {
+  if (distance == 0) {
+    return std::int16_t{0};
+  }
+  const int digitsInFront = 1 + static_cast<int>(std::floor(std::log10(std::abs(distance))));
+  const double unit = std::pow(10.0, 7 - digitsInFront);
+  const double kept = std::nearbyint(std::nearbyint(distance * unit) / unit);
+  constexpr std::numeric_limits<std::int16_t> range;
+  if (kept < range.min() || kept > range.max()) {
+    return std::nullopt;
+  }
+  return static_cast<std::int16_t>(kept);
+}
+
+void MainFormLayout::InitResizeTags(TwipsSize form) {
+  width_ = form.Width;
+  height_ = form.Height;
   distances_.clear();
   for (const FormControlPlace& control : controls_) {
-    const Twips distance = control.KeepsTo == Anchor::Right ? width_ - control.Place.Left
-                                                            : height_ - control.Place.Top;
-    distances_.push_back(Rounded(distance));
+    distances_.push_back(KeptDistance(control.KeepsTo == Anchor::Right
+                                          ? width_ - control.Place.Left
+                                          : height_ - control.Place.Top));
   }
   const TwipsRect& browse = PlaceOf("picBrowse");
   const TwipsRect& list = PlaceOf("lstFileList");
-  browseBottomMargin_ = Rounded(height_ - (browse.Top + browse.Height));
-  listBottomMargin_ = Rounded(height_ - (list.Top + list.Height));
-  gap_ = Rounded(list.Left - (browse.Left + browse.Width));
-  listRightMargin_ = Rounded(width_ - (list.Left + list.Width));
+  browseBottomMargin_ = KeptDistance(height_ - (browse.Top + browse.Height));
+  listBottomMargin_ = KeptDistance(height_ - (list.Top + list.Height));
+  gap_ = KeptDistance(list.Left - (browse.Left + browse.Width));
+  listRightMargin_ = KeptDistance(width_ - (list.Left + list.Width));
 }
 
 bool MainFormLayout::ResizeIfChanged(Twips width, Twips height) {
@@ -60,21 +96,32 @@ bool MainFormLayout::ResizeIfChanged(Twips width, Twips height) {
 void MainFormLayout::LayoutMainForm(Twips widthBefore) {
   for (std::size_t i = 0; i < distances_.size(); ++i) {
     FormControlPlace& control = controls_[i];
+    if (!distances_[i]) {
+      continue;
+    }
     if (control.KeepsTo == Anchor::Bottom) {
-      control.Place.Top = height_ - distances_[i];
+      control.Place.Top = height_ - *distances_[i];
     } else if (control.KeepsTo == Anchor::Right) {
-      control.Place.Left = width_ - distances_[i];
+      control.Place.Left = width_ - *distances_[i];
     }
   }
   TwipsRect& browse = Find("picBrowse").Place;
   TwipsRect& list = Find("lstFileList").Place;
-  browse.Height = std::max(0.0, height_ - browse.Top - browseBottomMargin_);
-  list.Height = std::max(0.0, height_ - list.Top - listBottomMargin_);
+  if (browseBottomMargin_) {
+    browse.Height = std::max(0.0, height_ - browse.Top - *browseBottomMargin_);
+  }
+  if (listBottomMargin_) {
+    list.Height = std::max(0.0, height_ - list.Top - *listBottomMargin_);
+  }
   if (widthBefore > 0) {
     browse.Width *= width_ / widthBefore;
   }
-  list.Left = browse.Left + browse.Width + gap_;
-  list.Width = std::max(0.0, width_ - list.Left - listRightMargin_);
+  if (gap_) {
+    list.Left = browse.Left + browse.Width + *gap_;
+  }
+  if (listRightMargin_) {
+    list.Width = std::max(0.0, width_ - list.Left - *listRightMargin_);
+  }
   Find("cboKeywords").Place.Left = list.Left;
   PlaceFileStatus();
 }

@@ -5,9 +5,12 @@
 // the bottom.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "layout/form_control.h"
+#include "layout/scaling.h"
 
 namespace vorlane {
 
@@ -22,9 +25,19 @@ class MainFormLayout {
   Twips Width() const { return width_; }
   Twips Height() const { return height_; }
 
-  // Measures the distances that are kept from now on, from the controls and the form as they
-  // stand. Once, when everything has its first place and size.
-  void InitResizeTags();
+  // A control that takes its size from its picture.
+  void SetControlSize(std::string_view name, TwipsSize size);
+
+  // Scales one control that has a picture.
+  void ScaleControlPosition(std::string_view name, ScaleFactors factors);
+  void ScaleControlSize(std::string_view name, ScaleFactors factors);
+
+  // Scales the form and every control but those that follow their pictures: images and buttons.
+  void ScaleAllControls(ScaleFactors factors);
+
+  // Measures the distances that are kept from now on, from the controls as they stand in a form of
+  // that size. Once, when everything has its first place and size.
+  void InitResizeTags(TwipsSize form);
 
   // Arranges everything for a form of that size. Nothing moves if the form has it already. True if
   // something may have moved.
@@ -39,11 +52,15 @@ class MainFormLayout {
   void PlaceFileStatus();
 
   std::vector<FormControlPlace> controls_;
-  std::vector<std::int32_t> distances_;  // by control, from the edge that it keeps to
-  std::int32_t browseBottomMargin_ = 0;
-  std::int32_t listBottomMargin_ = 0;
-  std::int32_t gap_ = 0;  // between tree and list
-  std::int32_t listRightMargin_ = 0;
+  // Nothing for a distance that a kept number can't hold: what depends on it stays where it is.
+  using Distance = std::optional<std::int16_t>;
+  static Distance KeptDistance(Twips distance);
+
+  std::vector<Distance> distances_;  // by control, from the edge that it keeps to
+  Distance browseBottomMargin_;
+  Distance listBottomMargin_;
+  Distance gap_;  // between tree and list
+  Distance listRightMargin_;
   Twips width_ = DesignWidth;
   Twips height_ = DesignHeight;
 };

@@ -19,6 +19,13 @@ struct TwipsRect {
   bool operator==(const TwipsRect&) const = default;
 };
 
+struct TwipsSize {
+  Twips Width = 0;
+  Twips Height = 0;
+
+  bool operator==(const TwipsSize&) const = default;
+};
+
 inline int PixelsOf(Twips length) {
   return static_cast<int>(std::lround(length / TwipsPerPixel));
 }

@@ -5,16 +5,25 @@
 
 namespace vorlane {
 
-void SetApplicationLook() {
+namespace {
+
+constexpr const char* StandardFamily = "MS Sans Serif";
+
+}  // namespace
+
+QFont StandardFont() {
   constexpr int Pixels = 11;
-  const QString standard = QStringLiteral("MS Sans Serif");
+  QFont font(QString::fromLatin1(StandardFamily));
+  font.setPixelSize(Pixels);
+  return font;
+}
+
+void SetApplicationLook() {
   const QStringList substitutes = {QStringLiteral("Liberation Sans"),
                                    QStringLiteral("DejaVu Sans")};
-  QFont::insertSubstitutions(standard, substitutes);
+  QFont::insertSubstitutions(QString::fromLatin1(StandardFamily), substitutes);
   QFont::insertSubstitutions(QStringLiteral("Trebuchet MS"), substitutes);
-  QFont font(standard);
-  font.setPixelSize(Pixels);
-  QApplication::setFont(font);
+  QApplication::setFont(StandardFont());
 }
 
 }  // namespace vorlane

@@ -15,6 +15,7 @@ DesktopServices::DesktopServices(Prompter& prompts)
       Settings(Calls),
       Memory(Settings),
       Report({prompts, Clipboard, Files, Time, Settings},
-             {ProgramFolder(), StateFolder().append(u"vorlane/")}) {}
+             {ProgramFolder(), StateFolder().append(u"vorlane/")}),
+      Sounds(MakeSoundPlayer()) {}
 
 }  // namespace vorlane

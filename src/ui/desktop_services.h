@@ -2,6 +2,8 @@
 // the failure report. One of them in a program.
 #pragma once
 
+#include <memory>
+
 #include "platform/posix_desktop_tools.h"
 #include "platform/posix_file_system.h"
 #include "platform/posix_registry_file.h"
@@ -13,6 +15,7 @@
 #include "ui/program.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_prompter.h"
+#include "ui/sound_output.h"
 
 namespace vorlane {
 
@@ -20,7 +23,7 @@ struct DesktopServices {
   // Message boxes go to `prompts`, which outlives this.
   explicit DesktopServices(Prompter& prompts);
 
-  ProgramServices ForProgram() { return {Files, Time, Report, Prompts, Memory}; }
+  ProgramServices ForProgram() { return {Files, Time, Report, Prompts, Memory, *Sounds}; }
   ShutDownServices ForShutDown() { return {Files, Settings, Registry}; }
 
   Prompter& Prompts;
@@ -36,6 +39,7 @@ struct DesktopServices {
   vorlane::Settings Settings;
   SettingsBoxMemory Memory;
   ErrorLog Report;
+  std::unique_ptr<SoundPlayer> Sounds;
 };
 
 }  // namespace vorlane

@@ -4,6 +4,7 @@
 
 #include "platform/interface_texts.h"
 #include "platform/vendor.h"
+#include "ui/application_look.h"
 #include "ui/qt_text.h"
 
 namespace vorlane {
@@ -14,9 +15,16 @@ QString TextOf(int number) {
   return ToQString(InterfaceText(number));
 }
 
-QPushButton* MakeButton(QWidget& form, int caption) {
-  auto* button = new QPushButton(TextOf(caption), &form);
-  button->setAutoDefault(false);
+// Nothing but its picture is to be seen of a button. While it has none it shows its caption.
+EasyButton* MakeButton(QWidget& form, const EasyButtonServices& services, int caption) {
+  auto* button = new EasyButton(services, &form);
+  PropertyBag designed({{QStringLiteral("Caption"), QString()},
+                        {QStringLiteral("Align"), 0},
+                        {QStringLiteral("BackColor"), 0xC0C0C0U},
+                        {QStringLiteral("Font"), QVariant::fromValue(StandardFont())},
+                        {QStringLiteral("ForeColor"), DesktopColour::ButtonText}});
+  button->ReadProperties(designed);
+  button->SetStandInCaption(TextOf(caption));
   return button;
 }
 
@@ -44,30 +52,30 @@ void Describe(const Description& description) {
 
 }  // namespace
 
-FormControls::FormControls(QWidget& form, FileSystem& files)
-    : TopBar(MakeLabel(form)),
-      BottomBar(MakeLabel(form)),
+FormControls::FormControls(QWidget& form, const EasyButtonServices& services)
+    : TopBar(new ImageBar(&form)),
+      BottomBar(new ImageBar(&form)),
       Title(MakeLabel(form)),
       Browse(new QFrame(&form)),
-      Folders(new FolderTreeView(Browse, files)),
+      Folders(new FolderTreeView(Browse, services.Files)),
       Operations(new OperationsView(&form)),
       FileList(new FileListView(&form)),
       Keywords(new QComboBox(&form)),
       FileStatus(MakeLabel(form)),
       Status(MakeLabel(form)),
-      ListFiles(MakeButton(form, TextNumber::ListFiles)),
-      ListFolders(MakeButton(form, TextNumber::ListFolders)),
-      ThisFolderOnly(MakeButton(form, TextNumber::ThisFolderOnly)),
-      IncludeSubFolders(MakeButton(form, TextNumber::IncludeSubFolders)),
-      DoOne(MakeButton(form, TextNumber::DoOne)),
-      DoAll(MakeButton(form, TextNumber::DoAll)),
+      ListFiles(MakeButton(form, services, TextNumber::ListFiles)),
+      ListFolders(MakeButton(form, services, TextNumber::ListFolders)),
+      ThisFolderOnly(MakeButton(form, services, TextNumber::ThisFolderOnly)),
+      IncludeSubFolders(MakeButton(form, services, TextNumber::IncludeSubFolders)),
+      DoOne(MakeButton(form, services, TextNumber::DoOne)),
+      DoAll(MakeButton(form, services, TextNumber::DoAll)),
       WildCard(new QComboBox(&form)),
       Progress(new QProgressBar(&form)),
-      Exit(MakeButton(form, TextNumber::Exit)),
-      Help(MakeButton(form, TextNumber::FirstToolTip + 14)),
-      Undo(MakeButton(form, TextNumber::FirstToolTip + 15)),
-      Go(MakeButton(form, TextNumber::Go)),
-      Stop(MakeButton(form, TextNumber::Stop)) {
+      Exit(MakeButton(form, services, TextNumber::Exit)),
+      Help(MakeButton(form, services, TextNumber::FirstToolTip + 14)),
+      Undo(MakeButton(form, services, TextNumber::FirstToolTip + 15)),
+      Go(MakeButton(form, services, TextNumber::Go)),
+      Stop(MakeButton(form, services, TextNumber::Stop)) {
   auto* inside = new QVBoxLayout(Browse);
   inside->setContentsMargins(0, 0, 0, 0);
   inside->addWidget(Folders);

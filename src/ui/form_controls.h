@@ -7,12 +7,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
-#include <QPushButton>
 #include <array>
 
 #include "form/option_box.h"
+#include "ui/easy_button.h"
 #include "ui/file_list_view.h"
 #include "ui/folder_tree_view.h"
+#include "ui/image_bar.h"
 #include "ui/operations_view.h"
 
 namespace vorlane {
@@ -27,11 +28,11 @@ inline constexpr int HelpLabelCount = 16;
 
 // The controls belong to the form.
 struct FormControls {
-  // The folder tree reads that disk.
-  FormControls(QWidget& form, FileSystem& files);
+  // The folder tree reads the same disk as the buttons.
+  FormControls(QWidget& form, const EasyButtonServices& services);
 
-  QLabel* TopBar;
-  QLabel* BottomBar;
+  ImageBar* TopBar;
+  ImageBar* BottomBar;
   QLabel* Title;
   QFrame* Browse;
   FolderTreeView* Folders;  // inside Browse
@@ -40,19 +41,19 @@ struct FormControls {
   QComboBox* Keywords;
   QLabel* FileStatus;
   QLabel* Status;
-  QPushButton* ListFiles;
-  QPushButton* ListFolders;
-  QPushButton* ThisFolderOnly;
-  QPushButton* IncludeSubFolders;
-  QPushButton* DoOne;
-  QPushButton* DoAll;
+  EasyButton* ListFiles;
+  EasyButton* ListFolders;
+  EasyButton* ThisFolderOnly;
+  EasyButton* IncludeSubFolders;
+  EasyButton* DoOne;
+  EasyButton* DoAll;
   QComboBox* WildCard;
   QProgressBar* Progress;
-  QPushButton* Exit;
-  QPushButton* Help;
-  QPushButton* Undo;
-  QPushButton* Go;
-  QPushButton* Stop;
+  EasyButton* Exit;
+  EasyButton* Help;
+  EasyButton* Undo;
+  EasyButton* Go;
+  EasyButton* Stop;
   std::array<BoxControls, OptionBoxCount> Boxes;
   std::array<QLabel*, HelpLabelCount> HelpLabels;
 

@@ -159,13 +159,13 @@ void FormPresenter::GiveFocusBack() {
 }
 
 void FormPresenter::ShowButtons() {
-  const auto show = [this](bool second, QPushButton* one, QPushButton* other) {
-    QPushButton* shown = second ? other : one;
-    QPushButton* hidden = second ? one : other;
+  const auto show = [this](bool second, EasyButton* one, EasyButton* other) {
+    EasyButton* shown = second ? other : one;
+    EasyButton* hidden = second ? one : other;
     const bool hadFocus = window_->focusWidget() == hidden;
     shown->setVisible(true);
     if (hadFocus) {
-      shown->setFocus();
+      shown->setFocus(hidden->ShowsFocus() ? Qt::TabFocusReason : Qt::MouseFocusReason);
     }
     hidden->setVisible(false);
   };

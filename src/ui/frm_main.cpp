@@ -1,9 +1,11 @@
 #include "ui/frm_main.h"
 
 #include <QCloseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 #include "platform/vendor.h"
+#include "ui/label_colours.h"
 #include "ui/qt_text.h"
 
 namespace vorlane {
@@ -31,7 +33,8 @@ QString NameOf(const FormControlPlace& control) {
 
 }  // namespace
 
-FrmMain::FrmMain(FileSystem& files) : controls_(*this, files), grip_(*this) {
+FrmMain::FrmMain(const EasyButtonServices& services)
+    : controls_(*this, services), background_(services.Files), grip_(*this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(ToQString(ApplicationTitle));
   setMouseTracking(true);
@@ -62,15 +65,31 @@ FrmMain::FrmMain(FileSystem& files) : controls_(*this, files), grip_(*this) {
       OnPointerReset();
     }
   };
-  resize(PixelsOf(DesignWidth), PixelsOf(DesignHeight));
-  PlaceControls();
+  ShowHelpLabelColours(controls_);
+  TakeLayout();
   ShowFileStatus({});
 }
 
+void FrmMain::TakeLayout() {
+  const QScopedValueRollback resizing(inResize_, true);
+  resize(PixelsOf(layout_.Width()), PixelsOf(layout_.Height()));
+  PlaceControls();
+}
+
+void FrmMain::ScaleFonts(double factor) {
+  for (std::size_t i = 0; i < placed_.size(); ++i) {
+    const ControlKind kind = layout_.Controls()[i].Kind;
+    if (kind == ControlKind::Label || kind == ControlKind::TextBox) {
+      QFont font = placed_[i]->font();
+      font.setPixelSize(std::max(1, qRound(font.pixelSize() * factor)));
+      placed_[i]->setFont(font);
+    }
+  }
+}
+
 void FrmMain::InitLayout() {
-  layout_.InitResizeTags();
+  layout_.InitResizeTags({TwipsOf(width()), TwipsOf(height())});
   measured_ = true;
-  ResizeIfChanged();
 }
 
 void FrmMain::RestorePlacement(const PlacementToApply& placement) {
@@ -94,7 +113,9 @@ TwipsRect FrmMain::NormalPlacement() const {
 
 void FrmMain::ResizeIfChanged() {
   if (measured_ && layout_.ResizeIfChanged(TwipsOf(width()), TwipsOf(height()))) {
+    background_.Show(size());
     PlaceControls();
+    update();
   }
 }
 
@@ -111,6 +132,7 @@ void FrmMain::PlaceControls() {
     }
   }
   PlaceStatus();
+  ShowLabelColours(controls_, background_.Covered(), mouseOnTitle_);
 }
 
 void FrmMain::ShowStatus(const QString& text) {
@@ -133,6 +155,11 @@ void FrmMain::ShowFileStatus(const QString& text) {
   layout_.SetFileStatusWidth(TwipsOf(label.width()));
   const TwipsRect& place = layout_.PlaceOf("lblFileStatus");
   label.move(PixelsOf(place.Left), PixelsOf(place.Top));
+}
+
+void FrmMain::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  background_.Paint(painter, event->rect());
 }
 
 void FrmMain::resizeEvent(QResizeEvent* event) {
@@ -184,6 +211,7 @@ void FrmMain::MousePressed(const QMouseEvent& event) {
 
 void FrmMain::MouseMoved(QPointF position) {
   grip_.HitTestResizeGrip(position);
+  ShowMouseOnTitle(false);
   if (OnHoverReset) {
     OnHoverReset();
   }
@@ -239,6 +267,25 @@ bool FrmMain::TakeBarEvent(const QWidget& bar, const QEvent& event) {
   }
 }
 
+void FrmMain::TakeTitleEvent(const QEvent& event) {
+  if (event.type() == QEvent::Enter) {
+    ShowMouseOnTitle(true);
+  } else if (event.type() == QEvent::MouseButtonRelease) {
+    const auto& mouse = static_cast<const QMouseEvent&>(event);
+    if (mouse.button() == Qt::LeftButton && controls_.Title->rect().contains(mouse.pos()) &&
+        OnTitleClicked) {
+      OnTitleClicked();
+    }
+  }
+}
+
+void FrmMain::ShowMouseOnTitle(bool isThere) {
+  if (mouseOnTitle_ != isThere) {
+    mouseOnTitle_ = isThere;
+    ShowLabelColours(controls_, background_.Covered(), mouseOnTitle_);
+  }
+}
+
 bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Enter) {
     grip_.Disarm();  // a quick mouse leaves the strip unseen
@@ -246,6 +293,9 @@ bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
   if (watched == controls_.TopBar || watched == controls_.BottomBar) {
     return TakeBarEvent(*static_cast<QWidget*>(watched), *event) ||
            QWidget::eventFilter(watched, event);
+  }
+  if (watched == controls_.Title) {
+    TakeTitleEvent(*event);
   }
   if (watched == controls_.FileStatus && event->type() == QEvent::MouseButtonDblClick &&
       OnFileStatusDoubleClicked) {

@@ -6,6 +6,7 @@
 
 #include "layout/main_form_layout.h"
 #include "layout/window_placement.h"
+#include "ui/form_background.h"
 #include "ui/form_controls.h"
 #include "ui/form_grip.h"
 
@@ -13,9 +14,17 @@ namespace vorlane {
 
 class FrmMain final : public QWidget {
  public:
-  explicit FrmMain(FileSystem& files);
+  explicit FrmMain(const EasyButtonServices& services);
 
   FormControls& Controls() { return controls_; }
+  FormBackground& Background() { return background_; }
+
+  // Where everything stands; to be changed before InitLayout alone, and shown by TakeLayout.
+  MainFormLayout& Layout() { return layout_; }
+  void TakeLayout();
+
+  // The fonts of labels and text boxes.
+  void ScaleFonts(double factor);
 
   // Measures what the layout keeps. Once, when the controls have their first places.
   void InitLayout();
@@ -45,10 +54,13 @@ class FrmMain final : public QWidget {
   // was over goes.
   std::function<void()> OnHoverReset;
 
+  std::function<void()> OnTitleClicked;
+
   // The form's cursor has become the default one by a mouse move.
   std::function<void()> OnPointerReset;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -66,8 +78,11 @@ class FrmMain final : public QWidget {
   void ResizeIfChanged();
   void PlaceControls();
   void PlaceStatus();
+  void TakeTitleEvent(const QEvent& event);
+  void ShowMouseOnTitle(bool isThere);
 
   FormControls controls_;
+  FormBackground background_;
   MainFormLayout layout_;
   FormGrip grip_;
   std::vector<QWidget*> placed_;  // by the layout's order
@@ -76,6 +91,7 @@ class FrmMain final : public QWidget {
   bool inResize_ = false;        // the program itself sets the size
   bool pendingRestore_ = false;  // the window has been maximized
   bool activated_ = false;
+  bool mouseOnTitle_ = false;
 };
 
 }  // namespace vorlane

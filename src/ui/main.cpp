@@ -6,6 +6,7 @@
 #include "platform/program_folder.h"
 #include "platform/program_version.h"
 #include "platform/user_folders.h"
+#include "platform/vendor.h"
 #include "shell/start_up.h"
 #include "shell/stored_favorites.h"
 #include "ui/about_box.h"
@@ -14,6 +15,8 @@
 #include "ui/fade_out.h"
 #include "ui/favorites_popup.h"
 #include "ui/main_window_load.h"
+#include "ui/program_icons.h"
+#include "ui/qt_text.h"
 #include "ui/stop_signal.h"
 #include "ui/uninstall.h"
 
@@ -58,6 +61,7 @@ int RunWindow(QApplication& app, const Text& commandLine) {
     about.raise();
     about.activateWindow();
   };
+  window.OnTitleClicked = [] { OpenInBrowser(ToQString(VendorAddress)); };
   program.OnCloseAsked = [&] { about.EndCheck(); };
   bool fades = true;
   program.OnClosing = [&] {
@@ -95,5 +99,6 @@ int main(int argc, char** argv) {
     qunsetenv("QT_QPA_PLATFORM");  // what is started from here chooses for itself
   }
   SetApplicationLook();
+  QApplication::setWindowIcon(ApplicationIcon());
   return RunWindow(app, CommandLine(argc, argv));
 }

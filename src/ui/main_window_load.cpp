@@ -3,13 +3,17 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QScreen>
+#include <algorithm>
+#include <limits>
 
 #include "catalogue/operations_file.h"
 #include "platform/interface_texts.h"
 #include "platform/program_folder.h"
+#include "shell/screen_choice.h"
 #include "shell/start_up.h"
 #include "shell/stored_values.h"
 #include "ui/qt_text.h"
+#include "ui/skin.h"
 
 namespace vorlane {
 
@@ -44,6 +48,10 @@ class WindowAtExit final : public ClosingWindow {
   FrmMain& window_;
   Settings& settings_;
 };
+
+std::int16_t Pixels16(int pixels) {
+  return static_cast<std::int16_t>(std::min<int>(pixels, std::numeric_limits<std::int16_t>::max()));
+}
 
 void LoadColumns(Program& program, Settings& settings) {
   QHeaderView& header = *program.Window().Controls().FileList->header();
@@ -88,6 +96,19 @@ void PlaceWindow(FrmMain& window, Settings& settings) {
   }
 }
 
+// Before the settings of the year before are taken over: they don't choose the layout of this
+// start.
+void ApplySkin(Skin& skin, Settings& settings) {
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  const LayoutChoice choice =
+      ChooseLayout({Pixels16(screen.width()), Pixels16(screen.height())}, settings);
+  if (choice.Compact) {
+    skin.ApplySkinScaled(choice.Size.Width, choice.Size.Height);
+  } else {
+    skin.ApplySkinPictures();
+  }
+}
+
 RunValues ValuesOf(Program& program, FileSystem& files) {
   const QSize screen = QGuiApplication::primaryScreen()->size();
   RunValues values = RunValuesOf(program.State());
@@ -106,12 +127,15 @@ RunValues ValuesOf(Program& program, FileSystem& files) {
 void LoadMainWindow(Program& program, DesktopServices& services, const Text& programFolder) {
   FrmMain& window = program.Window();
   services.Report.SetRunValues([&] { return ValuesOf(program, services.Files); });
+  Skin skin(window, services.Files, programFolder);
+  ApplySkin(skin, services.Settings);
   const bool isFirstStart = UpgradeSettings(services.Registry);
   program.HideLabelsLater(isFirstStart);
   Settings& settings = services.Settings;
   program.Wildcard().LoadItems(settings.GetSetting(SettingsSection, SettingKey::WildCards, u""));
   LoadColumns(program, settings);
   LoadOperations(program, services, programFolder);
+  skin.AssignSounds();
   window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
   window.Controls().Status->setToolTip(ToQString(InterfaceText(TextNumber::PointAtQuestionMark)));
   program.SelectOperation(StoredLastOperation(settings));

@@ -60,7 +60,7 @@ Program::Program(const ProgramServices& services, const TimerIntervals& interval
       listTimers_(form_, services_, list_, preview_),
       gate_(form_.Jobs),
       timers_(intervals),
-      window_(services.Files),
+      window_({services.Files, services.Prompts, services.Sounds}),
       browser_(form_, services_, list_, *window_.Controls().Folders),
       keys_(window_) {
   presenter_.Attach(form_, window_, gate_, timers_);
@@ -124,8 +124,8 @@ Text Program::SelectedTitle() const {
 }
 
 void Program::ConnectButtons() {
-  const auto connect = [](QPushButton* button, std::function<void()> handler) {
-    QObject::connect(button, &QPushButton::clicked, button, std::move(handler));
+  const auto connect = [](EasyButton* button, std::function<void()> handler) {
+    button->OnClick = std::move(handler);
   };
   FormControls& controls = window_.Controls();
   connect(controls.Go, [this] { Go(); });
@@ -137,13 +137,13 @@ void Program::ConnectButtons() {
       OnHelp();
     }
   });
-  for (QPushButton* button : {controls.DoOne, controls.DoAll}) {
+  for (EasyButton* button : {controls.DoOne, controls.DoAll}) {
     connect(button, [this] { gate_.Start([this] { events_.cmdDoAllOrOne_Click(); }); });
   }
-  for (QPushButton* button : {controls.ListFiles, controls.ListFolders}) {
+  for (EasyButton* button : {controls.ListFiles, controls.ListFolders}) {
     connect(button, [this] { gate_.Start([this] { events_.cmdListFilesOrFolders_Click(); }); });
   }
-  for (QPushButton* button : {controls.ThisFolderOnly, controls.IncludeSubFolders}) {
+  for (EasyButton* button : {controls.ThisFolderOnly, controls.IncludeSubFolders}) {
     connect(button, [this] { gate_.Start([this] { events_.cmdSubFoldersOrNot_Click(); }); });
   }
 }
@@ -226,7 +226,7 @@ void Program::ConnectTimers() {
 
 void Program::ConnectKeys() {
   keys_.OnGo = [this] {
-    const QPushButton* go = window_.Controls().Go;
+    const EasyButton* go = window_.Controls().Go;
     if (go->isEnabled() && go->isVisible()) {
       Go();
     }

@@ -33,6 +33,7 @@ struct ProgramServices {
   FailureReport& Report;
   Prompter& Prompts;
   BoxMemory& Memory;
+  SoundPlayer& Sounds;
 };
 
 class Program {

@@ -71,5 +71,17 @@ TEST(ProgramFiles, WindowsFindsItByAnyCase) {
   EXPECT_EQ(FindProgramFile(files, u"C:\\app\\", u"Operations.ini"), u"C:\\app\\Operations.ini");
 }
 
+TEST(ProgramFiles, AFolderIsFoundInTheSameWay) {
+  MemoryFileSystem files;
+  files.Write(u"/app/Skin");
+  EXPECT_EQ(FindProgramFolder(files, u"/app/", u"Skin"), std::nullopt);
+  files.MakeFolder(u"/app/SKIN");
+  EXPECT_EQ(FindProgramFolder(files, u"/app/", u"Skin"), u"/app/SKIN/");
+  EXPECT_EQ(FindProgramFolder(files, u"/app/", u"SKIN"), u"/app/SKIN/");
+  files.MakeFolder(u"/app/skin");
+  EXPECT_EQ(FindProgramFolder(files, u"/app/", u"Skin"), std::nullopt);
+  EXPECT_EQ(FindProgramFolder(files, u"/app/", u"skin"), u"/app/skin/");
+}
+
 }  // namespace
 }  // namespace vorlane

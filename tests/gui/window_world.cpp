@@ -16,7 +16,7 @@ constexpr TimerIntervals ShortIntervals{.FileCounter = 100,
 
 }  // namespace
 
-WindowWorld::WindowWorld() : Main({Files, Time, Report, Prompts, Memory}, ShortIntervals) {
+WindowWorld::WindowWorld() : Main({Files, Time, Report, Prompts, Memory, Sounds}, ShortIntervals) {
   Main.Wildcard().LoadItems(u"");
   Main.Window().InitLayout();
   Main.Show();

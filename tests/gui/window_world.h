@@ -11,6 +11,7 @@
 #include "support/memory_box_memory.h"
 #include "support/recording_prompter.h"
 #include "support/recording_report.h"
+#include "support/recording_sounds.h"
 #include "support/temporary_folder.h"
 #include "ui/program.h"
 #include "ui/qt_text.h"
@@ -46,6 +47,7 @@ struct WindowWorld {
   RecordingReport Report;
   RecordingPrompter Prompts;
   MemoryBoxMemory Memory;
+  RecordingSounds Sounds;
   Program Main;
 };
 

@@ -9,7 +9,7 @@ namespace {
 
 MainFormLayout Measured() {
   MainFormLayout layout;
-  layout.InitResizeTags();
+  layout.InitResizeTags({DesignWidth, DesignHeight});
   return layout;
 }
 
@@ -94,6 +94,79 @@ TEST(MainFormLayout, AnySequenceOfSizesLeadsBackToTheDesign) {
     EXPECT_EQ(PixelsOf(control.Place.Top), PixelsOf(before.Top)) << control.Name;
     EXPECT_EQ(PixelsOf(control.Place.Width), PixelsOf(before.Width)) << control.Name;
   }
+}
+
+// What was kept is kept from the first place, not from the last one: the way to a size doesn't
+// count.
+void ExpectSamePlaces(const MainFormLayout& layout, const MainFormLayout& direct) {
+  for (const FormControlPlace& control : layout.Controls()) {
+    const TwipsRect& expected = direct.PlaceOf(control.Name, control.Index);
+    EXPECT_NEAR(control.Place.Left, expected.Left, 1e-6) << control.Name << control.Index;
+    EXPECT_NEAR(control.Place.Top, expected.Top, 1e-6) << control.Name << control.Index;
+    EXPECT_NEAR(control.Place.Width, expected.Width, 1e-6) << control.Name << control.Index;
+    EXPECT_NEAR(control.Place.Height, expected.Height, 1e-6) << control.Name << control.Index;
+  }
+}
+
+TEST(MainFormLayout, AnySequenceOfSizesGivesWhatItsLastSizeGivesAtOnce) {
+  for (unsigned seed = 0; seed < 40; ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    MainFormLayout layout;
+    MainFormLayout direct;
+    if (seed % 2 == 1) {
+      const ScaleFactors factors = FactorsFor(static_cast<int>(500 + random() % 900),
+                                              static_cast<int>(400 + random() % 600));
+      for (MainFormLayout* scaled : {&layout, &direct}) {
+        scaled->ScaleAllControls(factors);
+      }
+    }
+    for (MainFormLayout* measured : {&layout, &direct}) {
+      measured->InitResizeTags({measured->Width(), measured->Height()});
+    }
+    int width = 0;
+    int height = 0;
+    for (unsigned i = 0; i < 100; ++i) {
+      width = static_cast<int>(100 + random() % 4000);
+      height = static_cast<int>(100 + random() % 3000);
+      layout.ResizeIfChanged(TwipsOf(width), TwipsOf(height));
+    }
+    direct.ResizeIfChanged(TwipsOf(width), TwipsOf(height));
+    ExpectSamePlaces(layout, direct);
+  }
+}
+
+// Where a number of 16 bits holds no distance the control stays.
+TEST(MainFormLayout, ADistanceOfMoreThan16BitsIsNotKept) {
+  MainFormLayout layout;
+  layout.InitResizeTags({50000, DesignHeight});
+  const TwipsRect list = layout.PlaceOf("lstFileList");
+  layout.ResizeIfChanged(60000, DesignHeight + 150);
+  EXPECT_EQ(layout.PlaceOf("imgTopBar").Left, 3820);           // 46180 from the edge
+  EXPECT_EQ(layout.PlaceOf("cmdExit").Left, 14400);            // 35600
+  EXPECT_EQ(layout.PlaceOf("lstFileList").Width, list.Width);  // 35825
+  EXPECT_EQ(layout.PlaceOf("lstFileList").Height, list.Height + 150);
+  EXPECT_EQ(layout.PlaceOf("cmdGo").Top, 5880 + 150);
+}
+
+TEST(MainFormLayout, ADistanceIsRoundedToTheEvenTwip) {
+  MainFormLayout layout;
+  layout.SetControlSize("lstFileList", {10214.5, 4150.5});  // margins of 1185.5 and 2959.5
+  layout.InitResizeTags({DesignWidth, DesignHeight});
+  layout.ResizeIfChanged(DesignWidth + 1500, DesignHeight + 600);
+  const TwipsRect& list = layout.PlaceOf("lstFileList");
+  EXPECT_NEAR(DesignWidth + 1500 - (list.Left + list.Width), 1186, 1e-6);
+  EXPECT_NEAR(DesignHeight + 600 - (list.Top + list.Height), 2960, 1e-6);
+}
+
+// A form that has been nothing wide has no ratio to grow by.
+TEST(MainFormLayout, AFormOfNoWidthGrowsBackWithoutItsTree) {
+  MainFormLayout layout = Measured();
+  layout.ResizeIfChanged(0, 0);
+  layout.ResizeIfChanged(DesignWidth, DesignHeight);
+  EXPECT_EQ(layout.PlaceOf("picBrowse").Width, 0);
+  EXPECT_EQ(layout.PlaceOf("lstFileList").Left, 360 + 345);
+  EXPECT_EQ(layout.PlaceOf("cmdExit").Left, 14400);
 }
 
 TEST(MainFormLayout, AFormTooSmallForItsListLeavesNoNegativeSizes) {

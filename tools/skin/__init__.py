@@ -1,0 +1,1 @@
+"""Draws the shipped skin, sounds and icons; tools/make_skin.py is the way in."""
