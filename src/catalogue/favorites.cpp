@@ -6,7 +6,7 @@ namespace vorlane {
 
 namespace {
 
-constexpr std::int32_t FavoriteColor = 0x646400;  // red 0, green 100, blue 100
+constexpr std::uint32_t FavoriteColor = 0x646400;  // red 0, green 100, blue 100
 
 }  // namespace
 

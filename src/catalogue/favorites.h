@@ -41,7 +41,7 @@ struct FavoriteLine {
   Text Caption{};
   bool Enabled = true;
   FavoriteIcon Icon = FavoriteIcon::None;
-  std::int32_t ForeColor = -1;  // blue, green, red; -1 for the menu's own
+  std::uint32_t ForeColor = 0xFFFFFFFF;  // blue, green, red; or this, the menu's own
 };
 
 // A menu that is filled line by line, shown once and empty again.

@@ -40,14 +40,17 @@ ColorNumber Joined(const ColorChannels& channels) {
 }  // namespace
 
 ColorChannels ColorToRGB(ColorNumber color) {
-  return {static_cast<std::int16_t>(color & 0xFF),
-          static_cast<std::int16_t>(Rounded((color & 0xFF00) / 255.0)),
-          static_cast<std::int16_t>((color & 0xFF0000) / 0x10000)};
+  constexpr ColorNumber Full = 0xFF;
+  return {static_cast<std::int16_t>(color & Full),
+          static_cast<std::int16_t>(Rounded((color & Full << 8) / 255.0)),
+          static_cast<std::int16_t>(color >> 16 & Full)};
 }
 
 ColorNumber ColorOf(int red, int green, int blue) {
-  const auto limited = [](int channel) { return std::clamp(channel, 0, FullChannel); };
-  return limited(red) + limited(green) * 0x100 + limited(blue) * 0x10000;
+  const auto limited = [](int channel) {
+    return static_cast<ColorNumber>(std::clamp(channel, 0, FullChannel));
+  };
+  return limited(red) | limited(green) << 8 | limited(blue) << 16;
 }
 
 void CalcFrameColors(ColorNumber surface, ColorNumber& light, ColorNumber& dark) {

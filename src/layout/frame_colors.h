@@ -1,17 +1,17 @@
 // The colours of frames that are drawn line by line: light and dark edges, worked out from the
 // colour of the surface that they stand on.
 //
-// A colour is one number, blue, green and red from the highest byte to the lowest; -1 stands for
-// "work it out".
+// A colour is one number, blue, green and red from the highest byte to the lowest.
 #pragma once
 
 #include <cstdint>
 
 namespace vorlane {
 
-using ColorNumber = std::int32_t;
+using ColorNumber = std::uint32_t;
 
-inline constexpr ColorNumber ColorToWorkOut = -1;
+// In the place of a colour.
+inline constexpr ColorNumber ColorToWorkOut = 0xFFFFFFFF;
 
 struct ColorChannels {
   std::int16_t Red = 0;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "ui/program_icons.h"
 #include "ui/qt_text.h"
 
 namespace vorlane {
@@ -13,11 +14,11 @@ constexpr QPoint AtPointer(-1, -1);
 QImage PictureOf(FavoriteIcon icon) {
   switch (icon) {
     case FavoriteIcon::Save:
-      return QImage(QStringLiteral(":/icons/imgSave.png"));
+      return MenuIconPicture(MenuIcon::Save).toImage();
     case FavoriteIcon::Delete:
-      return QImage(QStringLiteral(":/icons/imgDelete.png"));
+      return MenuIconPicture(MenuIcon::Delete).toImage();
     case FavoriteIcon::Folder:
-      return QImage(QStringLiteral(":/icons/imgFolder.png"));
+      return MenuIconPicture(MenuIcon::Folder).toImage();
     case FavoriteIcon::None:
       break;
   }

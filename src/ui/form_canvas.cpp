@@ -1,12 +1,13 @@
 #include "ui/form_canvas.h"
 
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
 #include "layout/twips.h"
-#include "ui/system_colors.h"
+#include "ui/form_colours.h"
 
 namespace vorlane {
 
@@ -14,6 +15,10 @@ namespace {
 
 int NearestPixel(double pixels) {
   return static_cast<int>(std::ceil(pixels - 0.5));
+}
+
+QColor Shown(ColorNumber color) {
+  return ToQColor(color, QGuiApplication::palette());
 }
 
 }  // namespace
@@ -33,14 +38,14 @@ void FormCanvas::Resize(QSize pixels) {
   const QImage before = picture_;
   picture_ = QImage((QSizeF(pixels) * pixelRatio_).toSize(), QImage::Format_RGB32);
   picture_.setDevicePixelRatio(pixelRatio_);
-  picture_.fill(ToQColor(BackColor));
+  picture_.fill(Shown(BackColor));
   if (!before.isNull()) {
     QPainter(&picture_).drawImage(0, 0, before);
   }
 }
 
 void FormCanvas::Cls() {
-  picture_.fill(ToQColor(BackColor));
+  picture_.fill(Shown(BackColor));
   Current = {};
 }
 
@@ -73,14 +78,14 @@ void FormCanvas::Stroke(QPoint from, QPoint to, const QColor& color) {
 }
 
 void FormCanvas::Line(CanvasPoint from, CanvasPoint to, ColorNumber color) {
-  Stroke(PixelOf(from), PixelOf(to), ToQColor(color));
+  Stroke(PixelOf(from), PixelOf(to), Shown(color));
   Current = to;
 }
 
 void FormCanvas::Box(CanvasPoint from, CanvasPoint to, ColorNumber color) {
   const QPoint first = PixelOf(from);
   const QPoint last = PixelOf(to);
-  const QColor pen = ToQColor(color);
+  const QColor pen = Shown(color);
   if (first.x() == last.x() || first.y() == last.y()) {
     Stroke(first, last, pen);
     Stroke(last, last + QPoint(1, 0), pen);
@@ -100,14 +105,14 @@ void FormCanvas::FilledBox(CanvasPoint from, CanvasPoint to, ColorNumber color) 
   const QPoint last = PixelOf(to);
   const QPoint upperLeft(std::min(first.x(), last.x()), std::min(first.y(), last.y()));
   const QPoint lowerRight(std::max(first.x(), last.x()), std::max(first.y(), last.y()));
-  QPainter(&picture_).fillRect(QRect(upperLeft, lowerRight), ToQColor(color));
+  QPainter(&picture_).fillRect(QRect(upperLeft, lowerRight), Shown(color));
   Current = to;
 }
 
 void FormCanvas::Print(const QString& text) {
   QPainter painter(&picture_);
   painter.setFont(Font);
-  painter.setPen(ToQColor(ForeColor));
+  painter.setPen(Shown(ForeColor));
   painter.drawText(PixelOf(Current) + QPoint(0, QFontMetrics(Font).ascent()), text);
   Current = {0, Current.Y + TextHeight()};
 }

@@ -22,9 +22,11 @@ QVariantMap MenuCtl::WriteProperties() const {
 }
 
 void MenuCtl::AddItem(const QString& caption, const QString& name, bool enabled,
-                      const QImage& itemIcon, int itemForeColor, int itemHotForeColor,
-                      int itemHotBackColor) {
-  const auto colorOf = [](int given, int own) { return given == -1 ? own : given; };
+                      const QImage& itemIcon, FormColour itemForeColor, FormColour itemHotForeColor,
+                      FormColour itemHotBackColor) {
+  const auto colorOf = [](FormColour given, FormColour own) {
+    return given == OwnColor ? own : given;
+  };
   MenuItem item{name,
                 caption,
                 enabled,

@@ -11,6 +11,8 @@ namespace vorlane {
 
 class MenuCtl {
  public:
+  static constexpr FormColour OwnColor = 0xFFFFFFFF;
+
   // The menu belongs to the owner's window and has its font.
   MenuCtl(QWidget& owner, Prompter& boxes);
 
@@ -18,11 +20,11 @@ class MenuCtl {
   void ReadProperties(const QVariantMap& stored);
   QVariantMap WriteProperties() const;
 
-  // An item of the name "seperator", in any case, is a line and can't be chosen. A colour of -1 is
-  // the control's own at this moment.
+  // An item of the name "seperator", in any case, is a line and can't be chosen. The control's own
+  // colours are those of this moment.
   void AddItem(const QString& caption, const QString& name, bool enabled,
-               const QImage& itemIcon = {}, int itemForeColor = -1, int itemHotForeColor = -1,
-               int itemHotBackColor = -1);
+               const QImage& itemIcon = {}, FormColour itemForeColor = OwnColor,
+               FormColour itemHotForeColor = OwnColor, FormColour itemHotBackColor = OwnColor);
 
   // Opens the menu at that place in pixels, both -1 for the pointer's, and returns when it has
   // closed; everything else of the program goes on meanwhile. The menu closes when a mouse button

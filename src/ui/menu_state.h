@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "layout/menu_sums.h"
-#include "ui/system_colors.h"
+#include "ui/form_colours.h"
 
 namespace vorlane {
 
@@ -19,14 +19,14 @@ enum MenuSelection : int { FilledBar = 0, DottedBox = 2 };  // any other number:
 enum MenuStyle : int { EtchedFrame = 0, LayeredFrame = 1 };  // any other number: a flat line
 
 struct MenuProperties {
-  int BackColor = SystemColor(0x0F);
+  FormColour BackColor = DesktopColour::ButtonFace;
   bool Enabled = true;
   QFont Font;
   // Of a new item that is given none.
-  int ItemForeColor = SystemColor(0x07);
-  int ItemHotBackColor = SystemColor(0x0D);
-  int ItemHotForeColor = SystemColor(0x0E);
-  int LeftPicBackColor = SystemColor(0x0F);
+  FormColour ItemForeColor = DesktopColour::MenuText;
+  FormColour ItemHotBackColor = DesktopColour::Highlight;
+  FormColour ItemHotForeColor = DesktopColour::HighlightText;
+  FormColour LeftPicBackColor = DesktopColour::ButtonFace;
   float MenuAnimSpeed = 500;  // twips added by each step of the opening
   int MouseOverSelectionType = FilledBar;
   bool OpenAnimated = false;
@@ -47,9 +47,9 @@ struct MenuItem {
   QString Caption;
   bool Enabled = true;
   QImage ItemIcon;
-  int ItemForeColor = 0;
-  int ItemHotForeColor = 0;
-  int ItemHotBackColor = 0;
+  FormColour ItemForeColor = 0;
+  FormColour ItemHotForeColor = 0;
+  FormColour ItemHotBackColor = 0;
 
   // Draws as a line. The name is spelled as it has always been.
   bool IsSeparator() const;

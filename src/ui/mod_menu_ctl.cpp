@@ -1,10 +1,11 @@
 #include "ui/mod_menu_ctl.h"
 
+#include <QGuiApplication>
 #include <utility>
 
 #include "platform/interface_texts.h"
 #include "platform/vendor.h"
-#include "ui/system_colors.h"
+#include "ui/form_colours.h"
 
 namespace vorlane {
 
@@ -31,7 +32,7 @@ double UpperLine(const FormCanvas& canvas, const FrameCaption& caption) {
 }  // namespace
 
 ColorNumber OleTranslateColor(ColorNumber color) {
-  const QColor translated = ToQColor(color);
+  const QColor translated = ToQColor(color, QGuiApplication::palette());
   return ColorOf(translated.red(), translated.green(), translated.blue());
 }
 

@@ -1,8 +1,9 @@
 // Frames around anything that is drawn on a canvas: an etched line, a ramp of shades, a flat line,
 // each with a caption in its upper line if wanted.
 //
-// Colours may be colours of the system; -1 stands for a light and a dark shade of the canvas's back
-// colour. All of these measure in pixels and leave the canvas in its own scale.
+// Colours may be colours of the desktop. The one to be worked out stands for a light or a dark
+// shade of the canvas's back colour. All of these measure in pixels and leave the canvas in its own
+// scale.
 #pragma once
 
 #include "platform/prompter.h"
@@ -21,7 +22,7 @@ struct FrameColors {
   ColorNumber Dark = ColorToWorkOut;
 };
 
-// The number of the colour that a number of the system stands for.
+// The number of the colour that a number of the desktop stands for.
 ColorNumber OleTranslateColor(ColorNumber color);
 
 // The light and dark shades of the canvas's back colour in the place of those to be worked out.

@@ -123,9 +123,9 @@ TEST_F(FavoritesTest, FavoritesHaveAColorOfTheirOwn) {
   Slots.Folders = {{0, u"/S/"}};
   Rules.ShowMenu(FavoritesAskedBy::Mouse);
   const auto& lines = Menu.Menus.back().Lines;
-  EXPECT_EQ(lines.back().ForeColor, 100 * 256 + 100 * 65536);
+  EXPECT_EQ(lines.back().ForeColor, 100U * 256 + 100U * 65536);
   for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
-    EXPECT_EQ(lines[i].ForeColor, -1);
+    EXPECT_EQ(lines[i].ForeColor, 0xFFFFFFFFU);
   }
 }
 

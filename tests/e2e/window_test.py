@@ -257,7 +257,7 @@ class WindowTest(unittest.TestCase):
         found = self.display.run("xdotool", "search", "--onlyvisible", "--class",
                                  "vorlane").stdout.split()
         return next((window for window in found
-                     if window != self.window and 50 < self.geometry(window)[3] < 400), None)
+                     if window != self.window and 20 < self.geometry(window)[3] < 400), None)
 
     def right_click(self, place=BARE):
         self.click_button("3", place)

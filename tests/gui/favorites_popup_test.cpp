@@ -60,7 +60,10 @@ struct FavoritesPopupTest : testing::Test {
   void RightPress(const QPoint& at = {1018, 5}) {
     QTest::mousePress(&World.Main.Window(), Qt::RightButton, {}, at);
   }
-  void MenuKey() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Menu); }
+  void MenuKey() {
+    QWidget* focus = QApplication::focusWidget();
+    QTest::keyClick(focus != nullptr ? focus : &World.Main.Window(), Qt::Key_Menu);
+  }
   bool AllDone() const { return at_ == acts_.size(); }
 
   WindowWorld World;
@@ -153,6 +156,18 @@ TEST_F(FavoritesPopupTest, ByTheKeyboardItOpensOverTheFocusedControl) {
   EXPECT_TRUE(AllDone());
   QTest::keyClick(&tree, Qt::Key_F10);
   EXPECT_EQ(Popup(), nullptr);
+}
+
+TEST_F(FavoritesPopupTest, ATextBoxOpensNoMenuOfItsOwnByTheKey) {
+  auto& box = *World.Find<QComboBox>("cboWildCard").lineEdit();
+  box.setFocus();
+  QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+  QCoreApplication::sendEvent(&box, &byKey);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  QContextMenuEvent byMouse(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+  QCoreApplication::sendEvent(&box, &byMouse);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
 }
 
 TEST_F(FavoritesPopupTest, WhatIsTypedStaysInItsBox) {

@@ -519,13 +519,13 @@ TEST_F(MenuCtlTest, WithoutAStepTheOpeningEndsAllTheSame) {
 
 TEST_F(MenuCtlTest, PropertiesHaveTheirDefaults) {
   const MenuProperties defaults = ReadMenuProperties({}, Owner.font());
-  EXPECT_EQ(static_cast<unsigned>(defaults.BackColor), 0x8000000FU);
+  EXPECT_EQ(defaults.BackColor, 0x8000000FU);
   EXPECT_TRUE(defaults.Enabled);
   EXPECT_EQ(defaults.Font, Owner.font());
-  EXPECT_EQ(static_cast<unsigned>(defaults.ItemForeColor), 0x80000007U);
-  EXPECT_EQ(static_cast<unsigned>(defaults.ItemHotBackColor), 0x8000000DU);
-  EXPECT_EQ(static_cast<unsigned>(defaults.ItemHotForeColor), 0x8000000EU);
-  EXPECT_EQ(static_cast<unsigned>(defaults.LeftPicBackColor), 0x8000000FU);
+  EXPECT_EQ(defaults.ItemForeColor, 0x80000007U);
+  EXPECT_EQ(defaults.ItemHotBackColor, 0x8000000DU);
+  EXPECT_EQ(defaults.ItemHotForeColor, 0x8000000EU);
+  EXPECT_EQ(defaults.LeftPicBackColor, 0x8000000FU);
   EXPECT_EQ(defaults.MenuAnimSpeed, 500);
   EXPECT_EQ(defaults.MouseOverSelectionType, 0);
   EXPECT_FALSE(defaults.OpenAnimated);

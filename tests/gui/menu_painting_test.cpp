@@ -167,7 +167,8 @@ TEST_F(MenuPainting, AnyOtherNumberIsASolidBox) {
 
 TEST_F(MenuPainting, ARowWhoseBarHasTheBackColorChangesItsWordsAlone) {
   const auto add = [&] {
-    Menu.AddItem("Some words", "a", true, {}, -1, -1, Menu.Properties().BackColor);
+    Menu.AddItem("Some words", "a", true, {}, MenuCtl::OwnColor, MenuCtl::OwnColor,
+                 Menu.Properties().BackColor);
   };
   const QSize size = SizeOf("Some words", 1, 8);
   add();

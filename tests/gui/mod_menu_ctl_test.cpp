@@ -9,7 +9,7 @@
 
 #include "gui/pixel_rows.h"
 #include "support/recording_prompter.h"
-#include "ui/system_colors.h"
+#include "ui/form_colours.h"
 
 namespace vorlane {
 namespace {
@@ -95,8 +95,8 @@ TEST_F(FrameTest, AWideFlatFrameIsABand) {
 
 TEST_F(FrameTest, ColorsThatArentGivenAreShadesOfTheSurface) {
   const FrameColors shades = CalcFrameColors(Canvas);
-  EXPECT_EQ(shades.Light, 0x969696);
-  EXPECT_EQ(shades.Dark, 0x0A0A0A);
+  EXPECT_EQ(shades.Light, 0x969696U);
+  EXPECT_EQ(shades.Dark, 0x0A0A0AU);
   DrawFrameEtched(Canvas, {}, {}, false);
   EXPECT_EQ(Rows().front(), "DDDDDDDDL");
   Canvas.Cls();
@@ -104,7 +104,6 @@ TEST_F(FrameTest, ColorsThatArentGivenAreShadesOfTheSurface) {
   EXPECT_EQ(Rows().front(), "LLLLLLLLD");
   EXPECT_EQ(Rows()[1], "LlllllldD");
   Canvas.Cls();
-  // Worked out alone the dark shade is that of the surface as it is.
   DrawFrameFlat(Canvas, ColorToWorkOut, 1, {});
   EXPECT_EQ(Rows().front(), "DDDDDDDDD");
 }
@@ -115,14 +114,14 @@ TEST_F(FrameTest, TheSurfaceAndTheColorsMayBeTheSystems) {
   palette.setColor(QPalette::Button, QColor(100, 100, 100));
   palette.setColor(QPalette::Highlight, QColor(255, 0, 0));
   QGuiApplication::setPalette(palette);
-  Canvas.BackColor = SystemColor(0x0F);
+  Canvas.BackColor = DesktopColour::ButtonFace;
   Canvas.Cls();
-  EXPECT_EQ(CalcFrameColors(Canvas).Light, 0x969696);
-  DrawFrameFlat(Canvas, SystemColor(0x0D), 1, {});
+  EXPECT_EQ(CalcFrameColors(Canvas).Light, 0x969696U);
+  DrawFrameFlat(Canvas, DesktopColour::Highlight, 1, {});
   EXPECT_EQ(Rows()[0], "rrrrrrrrr");
   EXPECT_EQ(Rows()[1], "r.......r");
-  EXPECT_EQ(OleTranslateColor(SystemColor(0x0D)), 0x0000FF);
-  EXPECT_EQ(OleTranslateColor(0x123456), 0x123456);
+  EXPECT_EQ(OleTranslateColor(DesktopColour::Highlight), 0x0000FFU);
+  EXPECT_EQ(OleTranslateColor(0x123456), 0x123456U);
   QGuiApplication::setPalette(before);
 }
 

@@ -5,6 +5,8 @@
 namespace vorlane {
 namespace {
 
+constexpr ColorNumber Ask = ColorToWorkOut;
+
 struct Edges {
   ColorNumber Light;
   ColorNumber Dark;
@@ -12,7 +14,7 @@ struct Edges {
   bool operator==(const Edges&) const = default;
 };
 
-Edges EdgesOf(ColorNumber surface, Edges edges = {-1, -1}) {
+Edges EdgesOf(ColorNumber surface, Edges edges = {Ask, Ask}) {
   CalcFrameColors(surface, edges.Light, edges.Dark);
   return edges;
 }
@@ -32,19 +34,19 @@ TEST(FrameColors, GreenComesOutUpToOneStepTooHigh) {
 }
 
 TEST(FrameColors, AColorIsPutTogetherWithinTheLimits) {
-  EXPECT_EQ(ColorOf(1, 2, 3), 0x030201);
-  EXPECT_EQ(ColorOf(256, 300, 255), 0xFFFFFF);
-  EXPECT_EQ(ColorOf(-1, -200, 0), 0);
+  EXPECT_EQ(ColorOf(1, 2, 3), 0x030201U);
+  EXPECT_EQ(ColorOf(256, 300, 255), 0xFFFFFFU);
+  EXPECT_EQ(ColorOf(-1, -200, 0), 0U);
 }
 
 TEST(FrameColors, LightIsFiftyAboveTheSurface) {
-  EXPECT_EQ(EdgesOf(ColorOf(0, 100, 199), {-1, 7}), (Edges{ColorOf(50, 150, 249), 7}));
-  EXPECT_EQ(EdgesOf(ColorOf(200, 206, 255), {-1, 7}), (Edges{ColorOf(255, 255, 255), 7}));
+  EXPECT_EQ(EdgesOf(ColorOf(0, 100, 199), {Ask, 7}), (Edges{ColorOf(50, 150, 249), 7}));
+  EXPECT_EQ(EdgesOf(ColorOf(200, 206, 255), {Ask, 7}), (Edges{ColorOf(255, 255, 255), 7}));
 }
 
 TEST(FrameColors, DarkAloneIsAHundredAndFortyBelowTheSurface) {
-  EXPECT_EQ(EdgesOf(ColorOf(140, 100, 255), {7, -1}), (Edges{7, ColorOf(0, 0, 115)}));
-  EXPECT_EQ(EdgesOf(ColorOf(141, 0, 0), {7, -1}), (Edges{7, ColorOf(1, 0, 0)}));
+  EXPECT_EQ(EdgesOf(ColorOf(140, 100, 255), {7, Ask}), (Edges{7, ColorOf(0, 0, 115)}));
+  EXPECT_EQ(EdgesOf(ColorOf(141, 0, 0), {7, Ask}), (Edges{7, ColorOf(1, 0, 0)}));
 }
 
 TEST(FrameColors, DarkBesideLightIsWorkedOutFromLight) {
@@ -75,8 +77,8 @@ TEST(FrameColors, HalvesOfAStepGoToTheEvenOne) {
   const auto light = [](int red, int surface) {
     return LayerColors(ColorOf(surface, 0, 0), {ColorOf(red, 0, 0), 0}, 1, 3).Light;
   };
-  EXPECT_EQ(light(101, 100), 100);  // 100.5
-  EXPECT_EQ(light(103, 100), 102);  // 101.5
+  EXPECT_EQ(light(101, 100), 100U);  // 100.5
+  EXPECT_EQ(light(103, 100), 102U);  // 101.5
 }
 
 // A light edge below the surface, or a dark one above it, moves further away instead.
