@@ -102,7 +102,10 @@ void EasyButton::DrawCaption(QPainter& painter) const {
   painter.setPen(ToQColor(isEnabled() ? foreColor_ : DesktopColour::DisabledText, palette()));
   const int flags = isStandIn ? Qt::AlignCenter | Qt::TextWordWrap
                               : ToToolkitFlags(AlignToDrawFlags(align_) | OneUncutLine);
-  painter.drawText(textRectangle_, flags, isStandIn ? standIn_ : caption_);
+  constexpr int StandInMargin = 3;
+  const QRect room =
+      isStandIn ? textRectangle_.adjusted(StandInMargin, 0, -StandInMargin, 0) : textRectangle_;
+  painter.drawText(room, flags, isStandIn ? standIn_ : caption_);
 }
 
 void EasyButton::Clear() {

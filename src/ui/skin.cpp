@@ -75,10 +75,11 @@ void Skin::ApplySkinScaled(int resolutionX, int resolutionY) {
   for (const SkinFile& file : SkinFiles) {
     ShowScaled(file, factors);
   }
-  window_.Layout().ScaleAllControls(factors);
+  MainFormLayout& layout = window_.Layout();
+  layout.ScaleAllControls(factors);
   window_.ScaleFonts(factors.X);
+  window_.Background().Show(QSize(PixelsOf(layout.Width()), PixelsOf(layout.Height())));
   window_.TakeLayout();
-  window_.Background().Show(window_.size());
 }
 
 void Skin::AssignSounds() {

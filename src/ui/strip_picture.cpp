@@ -21,7 +21,7 @@ void StripPicture::Draw(QPainter& painter, Strip strip) const {
 QRegion StripPicture::Outline() const {
   const QImage mask = bitmap_.copy(QRect(QPoint(0, Top(Strip::Mask)), Size()));
   return QRegion(
-      QBitmap::fromImage(mask.createMaskFromColor(qRgb(255, 255, 255), Qt::MaskOutColor)));
+      QBitmap::fromImage(mask.createMaskFromColor(qRgb(255, 255, 255), Qt::MaskInColor)));
 }
 
 bool StripPicture::IsSolid(QPoint place) const {

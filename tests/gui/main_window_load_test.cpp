@@ -1,7 +1,7 @@
 // The load and the end of the main window, over a settings file of the test's own.
 #include "ui/main_window_load.h"
 
-#include "gui/window_world.h"
+#include "gui/skin_world.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
@@ -124,6 +124,57 @@ TEST_F(MainWindowLoadTest, TheTimersHaveTheirIntervals) {
   EXPECT_EQ(timers.tmrAutoPreview.interval(), 1000);
   EXPECT_FALSE(timers.tmrListScroll.isSingleShot() || timers.tmrFileCounter.isSingleShot());
   EXPECT_TRUE(timers.tmrUpdateList.isSingleShot() && timers.tmrAutoPreview.isSingleShot());
+}
+
+TEST_F(MainWindowLoadTest, ASmallerScreenMakesTheWindowCompact) {
+  Folder.Write("program/Skin/Go.bmp", BytesOf(FourStrips(56, 60)).toStdString());
+  EXPECT_EQ(Load().Main.Window().Controls().Go->size(), QSize(56, 60));
+  Store(u"Resolution", u"800x600");
+  FrmMain& window = Load().Main.Window();
+  EXPECT_EQ(window.size(), QSize(724, 492));
+  EXPECT_EQ(window.Controls().Go->geometry(), QRect(628, 370, 40, 56));
+  EXPECT_EQ(window.Controls().Stop->pos(), QPoint(888, 392));  // there is no picture for it
+  // All distances are those of the compact window.
+  window.resize(824, 592);
+  EXPECT_EQ(window.Controls().Go->pos(), QPoint(628, 470));
+  EXPECT_EQ(window.Controls().WildCard->x(), PixelsOf(10440 * 990.0 / 1400) + 100);
+}
+
+TEST_F(MainWindowLoadTest, AScreenOfFullSizeMayBePretended) {
+  Folder.Write("program/Skin/TopBar.gif", BytesOf(Plain(300, 20)).toStdString());
+  for (const char16_t* resolution : {u"1024x768", u"1280x1024", u"x600", u"640X480", u""}) {
+    Store(u"Resolution", resolution);
+    EXPECT_EQ(Load().Main.Window().size(), QSize(1024, 522));
+    EXPECT_EQ(Current->Main.Window().Controls().TopBar->size(), QSize(300, 20));
+  }
+}
+
+TEST_F(MainWindowLoadTest, TheScreenOfTheYearBeforeCountsFromTheNextStartOn) {
+  {
+    DesktopServices services(Prompts);
+    Settings(services.Calls, u"Vorlane 2005")
+        .SaveSetting(SettingsSection, u"Resolution", u"800x600");
+  }
+  EXPECT_EQ(Load().Main.Window().size(), QSize(1024, 522));
+  EXPECT_EQ(Load().Main.Window().size(), QSize(724, 492));
+}
+
+TEST_F(MainWindowLoadTest, TheSoundsAreTakenFromBesideTheCatalogue) {
+  Folder.Write("program/Sounds/01.wav", "one");
+  Run& run = Load();
+  EXPECT_EQ(run.Main.Window().Controls().Go->SoundBytes(), "one");
+  EXPECT_NE(run.Main.Window().Controls().Stop->SoundBytes(), "one");
+}
+
+TEST_F(MainWindowLoadTest, ADamagedSkinKeepsNothingElseFromLoading) {
+  Folder.Write("program/Skin/Background.gif", "broken");
+  Folder.Write("program/Skin/Go.bmp", BytesOf(FourStrips(56, 60)).toStdString());
+  Store(u"Width", u"18000");
+  Run& run = Load();
+  EXPECT_EQ(run.Main.Window().Controls().Go->size(), QSize(55, 79));
+  EXPECT_EQ(run.Main.Window().width(), 1200);
+  EXPECT_EQ(run.Main.State().SelectedOperation, 1);
+  EXPECT_TRUE(Prompts.Boxes.empty());
 }
 
 TEST_F(MainWindowLoadTest, OnlyA1IsMaximized) {

@@ -237,7 +237,7 @@ TEST(ShippedSkin, HasAPlateUnderTheTitleForBlackAndWhite) {
 class TextsOnTheSkin : public testing::TestWithParam<QSize> {
  protected:
   void SetUp() override {
-    layout_.InitResizeTags();
+    layout_.InitResizeTags({DesignWidth, DesignHeight});
     layout_.ResizeIfChanged(TwipsOf(size_.width()), TwipsOf(size_.height()));
     layout_.SetFileStatusWidth(TwipsOf(90));
     background_ = Picture("Background.gif", "gif")
