@@ -1,6 +1,6 @@
 #include "ui/frm_menu_ctl.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -26,6 +26,24 @@ ScreenEnds EndsOfScreen() {
   return {TwipsOf(screen.x() + screen.width()), TwipsOf(screen.y() + screen.height())};
 }
 
+// Assistive programs see the menu as the one item that is hot.
+class HotItemAccessible final : public QAccessibleWidget {
+ public:
+  explicit HotItemAccessible(QWidget* menu) : QAccessibleWidget(menu, QAccessible::MenuItem) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.focusable = true;
+    state.focused = true;
+    return state;
+  }
+};
+
+QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object) {
+  auto* menu = dynamic_cast<FrmMenuCtl*>(object);
+  return menu == nullptr ? nullptr : new HotItemAccessible(menu);
+}
+
 }  // namespace
 
 FrmMenuCtl::FrmMenuCtl(MenuState& menu, QWidget& owner, Prompter& boxes)
@@ -41,6 +59,7 @@ FrmMenuCtl::FrmMenuCtl(MenuState& menu, QWidget& owner, Prompter& boxes)
   menu_.PreviousIndex = 0;
   canvas_.Font = menu_.Properties.Font;
   canvas_.BackColor = menu_.Properties.BackColor;
+  QAccessible::installFactory(MakeAccessible);  // once, however often it is told
 }
 
 // A menu that doesn't grow in sight has its size before it shows.
@@ -54,6 +73,9 @@ void FrmMenuCtl::Open(Twips left, Twips top) {
   } else {
     DrawMenu(true, true, true, true);
     show();
+  }
+  if (!menu_.Items.empty()) {
+    AnnounceHotRow();
   }
 }
 
@@ -189,13 +211,18 @@ void FrmMenuCtl::SetHotRow(int row) {
   menu_.PreviousIndex = menu_.SelectedIndex;
   menu_.SelectedIndex = row;
   DrawMenu(false, false, false, false);
-  if (const MenuItem* chosen = menu_.Chosen()) {
-    setAccessibleName(ShownCaption(*chosen));
-    QAccessibleEvent focus(this, QAccessible::Focus);
-    QAccessible::updateAccessibility(&focus);
-  } else {
-    setAccessibleName({});
+  AnnounceHotRow();
+}
+
+// Without a row that could be chosen it is the heading, if there is one.
+void FrmMenuCtl::AnnounceHotRow() {
+  const MenuItem* row = menu_.Chosen();
+  if (row == nullptr && !menu_.Items.empty() && !menu_.Items.front().Enabled) {
+    row = &menu_.Items.front();
   }
+  setAccessibleName(row == nullptr ? QString() : ShownCaption(*row));
+  QAccessibleEvent focus(this, QAccessible::Focus);
+  QAccessible::updateAccessibility(&focus);
 }
 
 void FrmMenuCtl::mousePressEvent(QMouseEvent* /*event*/) {}

@@ -52,6 +52,7 @@ class FrmMenuCtl final : public QWidget {
   void GrowStepByStep(Twips widest);
   void DrawFrame();
   void SetHotRow(int row);
+  void AnnounceHotRow();
   void StepHotRow(int from, int direction);
   void Answer();
   void WatchOwner();

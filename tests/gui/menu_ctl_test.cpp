@@ -349,18 +349,42 @@ TEST_F(MenuCtlTest, KeysInAnEmptyMenuDoNothingButEscape) {
   }));
 }
 
+// What a screen reader is told to say.
+QStringList Said;
+void TakeAccessibleEvent(QAccessibleEvent* event) {
+  if (event->type() == QAccessible::Focus && event->accessibleInterface() != nullptr) {
+    Said << event->accessibleInterface()->text(QAccessible::Name);
+  }
+}
+
 TEST_F(MenuCtlTest, AssistiveProgramsAreToldTheHotRow) {
+  Said.clear();
+  QAccessible::setActive(true);
+  const auto before = QAccessible::installUpdateHandler(TakeAccessibleEvent);
+  Add("Head", "h", false);
   Add("One", "a");
   Add("Two", "b");
-  Add("Off", "c", false);
+  Show([&](QWidget& form) {
+    QTest::keyClick(&form, Qt::Key_Down);
+    Point(form, 3);
+    Point(form, 1);
+    const QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(&form);
+    ASSERT_NE(shown, nullptr);
+    EXPECT_EQ(shown->role(), QAccessible::MenuItem);
+    EXPECT_TRUE(shown->state().focused);
+    Release(form, {});
+  });
+  QAccessible::installUpdateHandler(before);
+  QAccessible::setActive(false);
+  EXPECT_EQ(Said.mid(0, 4), QStringList({"Head", "One", "Two", "Head"}));
+}
+
+TEST_F(MenuCtlTest, WithoutAHeadingAMenuHasNoNameBeforeARowIsHot) {
+  Add("One", "a");
   Show([&](QWidget& form) {
     EXPECT_EQ(form.accessibleName(), "");
-    QTest::keyClick(&form, Qt::Key_Down);
+    Point(form, 1);
     EXPECT_EQ(form.accessibleName(), "One");
-    Point(form, 2);
-    EXPECT_EQ(form.accessibleName(), "Two");
-    Point(form, 3);
-    EXPECT_EQ(form.accessibleName(), "");
     Release(form, {});
   });
 }
@@ -460,7 +484,6 @@ TEST_F(MenuCtlTest, AnOpeningMenuGrowsStepByStep) {
   EXPECT_TRUE(has({34, 34}));  // 510 twips
   EXPECT_TRUE(has({67, 67}));  // 1010
   EXPECT_TRUE(has({101, 101}));
-  EXPECT_TRUE(has({width, height}) || opened == QSize(width, height));
 }
 
 TEST_F(MenuCtlTest, AnOpeningMenuWithIconsAndPictureComesOutWider) {
@@ -496,6 +519,7 @@ TEST_F(MenuCtlTest, AStepAboveTheHeightLeavesTheMenuNarrow) {
 TEST_F(MenuCtlTest, AReleaseDuringTheOpeningEndsTheMenu) {
   Menu.Properties().OpenAnimated = true;
   Menu.Properties().MenuAnimSpeed = 15;
+  ActsWhileOpening = true;
   for (int i = 0; i < 30; ++i) {
     Add("Row");
   }

@@ -54,11 +54,16 @@ struct MenuWorld : testing::Test {
   // Shows the menu and does that to it once it is open. True as ShowMenu.
   bool Show(std::function<void(QWidget& form)> act, QPoint at = {200, 150},
             const QImage& left = {}) {
-    QTimer::singleShot(0, &Owner, [act = std::move(act)] {
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+      // A menu that opens step by step doesn't wait in a loop yet.
       QWidget* form = QApplication::activePopupWidget();
-      ASSERT_NE(form, nullptr);
-      act(*form);
+      if (form != nullptr && act &&
+          (ActsWhileOpening || QThread::currentThread()->loopLevel() > 0)) {
+        std::exchange(act, nullptr)(*form);
+      }
     });
+    poll.start(0);
     QTimer patience;  // a menu that doesn't close is a failure, not the end of all tests
     QObject::connect(&patience, &QTimer::timeout, [] {
       ADD_FAILURE() << "the menu is still open";
@@ -108,6 +113,7 @@ struct MenuWorld : testing::Test {
   QWidget Owner;
   MenuCtl Menu;
   std::vector<Click> Clicks;
+  bool ActsWhileOpening = false;
 };
 
 inline std::ostream& operator<<(std::ostream& out, const MenuWorld::Click& click) {
