@@ -86,6 +86,7 @@ lint_is_clean() {
 
 check "includes point one way" tools/check_includes.sh
 check "formatting" format_is_kept
+check "docs/operations.md is up to date" tools/make_operations_doc.py --check
 for preset in core asan; do
   check "build $preset" build "$preset"
   for program in build/"$preset"/bin/*_tests; do

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "platform/failure.h"
 #include "platform/letter_case.h"
 
 namespace vorlane {
@@ -32,12 +31,13 @@ void SortAsTheListDoes(std::vector<FolderEntry>& entries) {
 
 }  // namespace
 
-void FolderWalk::SearchOneFolder() {
-  const Text folder = queue_.front();
+std::vector<FolderEntry> FolderWalk::EntriesOf(const Text& folder) {
   std::vector<FolderEntry> entries;
-  if (!Attempt([&] { entries = services_.Files.ListFolder(folder); })) {
-    return;
-  }
+  Attempt([&] { entries = services_.Files.ListFolder(folder); });
+  return entries;
+}
+
+void FolderWalk::TakeEntries(std::vector<FolderEntry>& entries, const Text& folder) {
   SortAsTheListDoes(entries);
   for (const FolderEntry& entry : entries) {
     if (entry.Status.Kind == EntryKind::Folder) {

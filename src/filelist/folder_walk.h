@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "form/form.h"
+#include "platform/failure.h"
 
 namespace vorlane {
 
@@ -36,18 +37,16 @@ class FolderWalk {
         includeSubFolders_(includeSubFolders),
         listFolders_(listFolders) {}
 
-  // Reads `folder` and what follows from it. Ends early when `isStopped` says so; yields once for
-  // each folder. Cost: linear in the entries, apart from the sort within each folder.
+  // Reads `folder` and what follows from it. Yields once for each folder, between reading and
+  // sorting it, the two that take long in a large one. Ends early when `isStopped` says so; the
+  // form is left alone from then on. Cost: linear in the entries, apart from the sorts.
   template <typename IsStopped>
   WalkTotals SearchFolders(TextView folder, IsStopped&& isStopped) {
     Begin(folder);
-    SearchOneFolder();
-    queue_.pop_front();
+    SearchOneFolder(isStopped);
     while (!queue_.empty() && !isStopped()) {
       ++totals_.Folders;
-      SearchOneFolder();
-      queue_.pop_front();
-      services_.Loop.Yield();
+      SearchOneFolder(isStopped);
     }
     return totals_;
   }
@@ -55,8 +54,20 @@ class FolderWalk {
   std::vector<FoundEntry>& Found() { return found_; }
 
  private:
+  template <typename IsStopped>
+  void SearchOneFolder(IsStopped& isStopped) {
+    const Text folder = std::move(queue_.front());
+    queue_.pop_front();
+    std::vector<FolderEntry> entries = EntriesOf(folder);
+    Attempt([&] { services_.Loop.Yield(); });
+    if (!isStopped()) {
+      TakeEntries(entries, folder);
+    }
+  }
+
   void Begin(TextView folder);
-  void SearchOneFolder();
+  std::vector<FolderEntry> EntriesOf(const Text& folder);
+  void TakeEntries(std::vector<FolderEntry>& entries, const Text& folder);
   void TakeFolder(const FolderEntry& entry, const Text& folder);
   void TakeFile(const FolderEntry& entry, const Text& folder);
   void Record(const FolderEntry& entry, const Text& folder);

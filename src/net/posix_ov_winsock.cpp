@@ -1,7 +1,6 @@
 #include <arpa/inet.h>
 #include <fcntl.h>
 #include <ifaddrs.h>
-#include <net/if.h>
 #include <netdb.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -10,6 +9,7 @@
 #include <memory>
 
 #include "net/ov_winsock.h"
+#include "net/posix_interfaces.h"
 #include "net/socket_calls.h"
 #include "platform/code_page.h"
 
@@ -121,14 +121,7 @@ bool OvWinsock::IsConnected() {
     return false;
   }
   const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> list(found, freeifaddrs);
-  for (const ifaddrs* each = list.get(); each != nullptr; each = each->ifa_next) {
-    const bool running = (each->ifa_flags & IFF_RUNNING) != 0;
-    const bool loopback = (each->ifa_flags & IFF_LOOPBACK) != 0;
-    if (running && !loopback && each->ifa_addr != nullptr && each->ifa_addr->sa_family == AF_INET) {
-      return true;
-    }
-  }
-  return false;
+  return ReachesOutside(list.get());
 }
 
 }  // namespace vorlane

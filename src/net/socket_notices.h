@@ -12,7 +12,8 @@ class SocketNotices {
   // has closed it. One socket is watched at a time: the one before is watched no longer.
   virtual void Watch(int socket) = 0;
 
-  // No more notices. Comes before the watched socket is closed, also from inside a notice.
+  // No more notices, also from inside a notice. Comes before the event loop turns again when the
+  // watched socket is closed.
   virtual void Unwatch() = 0;
 };
 

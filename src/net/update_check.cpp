@@ -11,7 +11,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr TextView UpdateFile = u"vorl.txt";
 constexpr std::size_t BufferSize = 8192;
 
 // What a reader may see of the bytes: not the headers. Headers that arrive alone give no text.
@@ -57,7 +56,7 @@ void UpdateCheck::lblUpdate_Click() {
   // Nobody reads the socket of an earlier check from now on, even if this request fails.
   services_.DataArrival.Unwatch();
   Text url = settings_.Host;
-  url.append(u"/").append(UpdateFile);
+  url.append(u"/").append(VendorUpdateFile);
   socket_ = services_.Sockets.SendHttpRequest(url, u"GET", services_.DataArrival,
                                               GetProxy(services_.Proxy), {});
   WaitForAnswer();

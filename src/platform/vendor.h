@@ -12,4 +12,7 @@ inline constexpr TextView VendorAddress = u"https://www.vorlane.example/";
 // The host that is asked for newer versions; an empty one switches the check off.
 inline constexpr TextView VendorHost = u"www.vorlane.example";
 
+// The text on that host that tells of the newest version.
+inline constexpr TextView VendorUpdateFile = u"vorl.txt";
+
 }  // namespace vorlane

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <filesystem>
+#include <utility>
 
 #include "platform/file_name_bytes.h"
 
@@ -136,12 +137,13 @@ void FileListView::ClickLater() {
     return;
   }
   clickWaits_ = true;
-  QTimer::singleShot(0, this, [this] {
-    clickWaits_ = false;
-    if (OnRowClicked) {
-      OnRowClicked();
-    }
-  });
+  QTimer::singleShot(0, this, [this] { DeliverWaitingClick(); });
+}
+
+void FileListView::DeliverWaitingClick() {
+  if (std::exchange(clickWaits_, false) && OnRowClicked) {
+    OnRowClicked();
+  }
 }
 
 void FileListView::dragEnterEvent(QDragEnterEvent* event) {

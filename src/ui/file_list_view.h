@@ -27,6 +27,10 @@ class FileListView final : public QTreeView {
   // The user has selected that row; the click itself follows when the view is done with it.
   std::function<void(int row)> OnRowSelected;
   std::function<void()> OnRowClicked;
+
+  // A click is told of as soon as the view has done its own work; this tells of it now, before
+  // something that depends on it begins.
+  void DeliverWaitingClick();
   std::function<void(Column)> OnColumnClicked;
   std::function<void(const Text& folder)> OnFolderDropped;
 

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
+#include <utility>
 
 namespace vorlane {
 
@@ -20,11 +21,18 @@ LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) {
   event->accept();
+  pressed_ = event->button() == Qt::LeftButton;
+}
+
+// The second press of a double click is no press of its own: the link was followed by the first.
+void LinkLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  event->accept();
 }
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
-  if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && OnClick) {
+  const bool clicked = std::exchange(pressed_, false) && event->button() == Qt::LeftButton;
+  if (clicked && rect().contains(event->pos()) && OnClick) {
     OnClick();
   }
 }

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <utility>
 
 #include "ui/qt_text.h"
 
@@ -63,12 +64,13 @@ void OperationsView::ClickLater() {
     return;
   }
   clickWaits_ = true;
-  QTimer::singleShot(0, this, [this] {
-    clickWaits_ = false;
-    if (OnNodeClicked && currentItem() != nullptr) {
-      OnNodeClicked(currentItem()->data(0, IndexRole).toInt());
-    }
-  });
+  QTimer::singleShot(0, this, [this] { DeliverWaitingClick(); });
+}
+
+void OperationsView::DeliverWaitingClick() {
+  if (std::exchange(clickWaits_, false) && OnNodeClicked && currentItem() != nullptr) {
+    OnNodeClicked(currentItem()->data(0, IndexRole).toInt());
+  }
 }
 
 }  // namespace vorlane

@@ -21,6 +21,10 @@ class OperationsView final : public QTreeWidget {
   // The user has picked the node, by the mouse or by a key.
   std::function<void(std::int32_t index)> OnNodeClicked;
 
+  // A click is told of as soon as the view has done its own work; this tells of it now, before
+  // something that depends on it begins.
+  void DeliverWaitingClick();
+
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void keyPressEvent(QKeyEvent* event) override;

@@ -276,11 +276,14 @@ void Program::RefreshFolders() {
   window_.Controls().Folders->Refresh(form_.CurrentPath);
 }
 
-// A second press while the first one waits for a preview to end is the same wish.
+// A second press while the first one waits for a preview to end is the same wish. What was clicked
+// before the press counts, even if both came at once.
 void Program::Go() {
   if (goWaits_ || closeWanted_) {
     return;
   }
+  window_.Controls().Operations->DeliverWaitingClick();
+  window_.Controls().FileList->DeliverWaitingClick();
   goWaits_ = true;
   gate_.Start([this] {
     goWaits_ = false;
@@ -332,6 +335,9 @@ void Program::Close() {
 }
 
 void Program::CloseUnattended() {
+  if (OnCloseAsked) {
+    OnCloseAsked();  // what comes from outside opens no further box
+  }
   if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
     box->reject();
   }

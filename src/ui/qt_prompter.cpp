@@ -2,7 +2,9 @@
 
 #include <QFontMetrics>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QScreen>
+#include <algorithm>
 
 #include "ui/qt_text.h"
 
@@ -26,13 +28,26 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+constexpr int LeastWidth = 400;  // of lines that are wrapped
+
+// A box breaks its lines at blanks only: it cuts off a word that is wider than its lines may be.
+bool HasWideWord(const QString& text, const QFontMetrics& metrics) {
+  static const QRegularExpression Blanks(QStringLiteral("\\s+"));
+  const QStringList words = text.split(Blanks);
+  return std::any_of(words.begin(), words.end(), [&](const QString& word) {
+    return metrics.horizontalAdvance(word) > LeastWidth;
+  });
+}
+
 // A box that is higher than the screen would hide its own button: it shows the beginning of its
-// text, and the whole of it among its details.
+// text. What isn't seen of the text can be read among the details.
 void FitScreen(QMessageBox& box) {
-  constexpr int LeastWidth = 400;  // of lines that are wrapped
   constexpr int AroundTheText = 250;
   const QString whole = box.text();
   const QFontMetrics metrics(box.font());
+  if (HasWideWord(whole, metrics)) {
+    box.setDetailedText(whole);
+  }
   const int room = box.screen()->availableGeometry().height() - AroundTheText;
   const auto fits = [&](qsizetype length) {
     const auto area = metrics.boundingRect(

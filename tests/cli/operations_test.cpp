@@ -1,4 +1,6 @@
 // vorlane-cli operations: the tree of the catalogue.
+#include <filesystem>
+
 #include "cli/run_cli.h"
 #include "cli/test_catalogue.h"
 
@@ -124,6 +126,27 @@ TEST_F(CliOperations, AProgramFolderWithoutTheFileIsStatus3) {
       RunProgram(VORLANE_CLI,
                  {.Arguments = {"operations"}, .Environment = {{"VORLANE_HOME", folder_.Path()}}});
   EXPECT_EQ(RefusalOf(result, 3), "no Operations.ini in " + folder_.Path());
+}
+
+// As packages lay it out: the program in bin, what it reads in share.
+TEST_F(CliOperations, AreFoundInTheShareFolderOfTheInstallation) {
+  folder_.Write("usr/share/vorlane/Operations.ini", TestCatalogue());
+  folder_.MakeFolder("usr/bin");
+  const std::string program = folder_.Path() + "usr/bin/vorlane-cli";
+  std::filesystem::copy_file(VORLANE_CLI, program);
+  const ProgramResult result = RunProgram(program, {.Arguments = {"operations"}});
+  EXPECT_EQ(result.Status, 0) << result.Errors;
+  EXPECT_TRUE(result.Output.starts_with("1\tNames:\n2\t  Upper case\n")) << result.Output;
+}
+
+// A catalogue beside the program, as in its build folder, goes before that of an installation.
+TEST_F(CliOperations, BesideTheProgramGoBeforeTheShareFolder) {
+  folder_.Write("usr/share/vorlane/Operations.ini", "not this one");
+  folder_.Write("usr/bin/Operations.ini", TestCatalogue());
+  const std::string program = folder_.Path() + "usr/bin/vorlane-cli";
+  std::filesystem::copy_file(VORLANE_CLI, program);
+  const ProgramResult result = RunProgram(program, {.Arguments = {"operations"}});
+  EXPECT_TRUE(result.Output.starts_with("1\tNames:\n2\t  Upper case\n")) << result.Output;
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ TEST(FolderWalk, GoesBreadthFirst) {
   EXPECT_EQ(walked.Paths, (std::vector<Text>{u"/R/4", u"/R/x/2", u"/R/y/3", u"/R/x/deep/1"}));
   EXPECT_EQ(walked.Totals.Entries, 4);
   EXPECT_EQ(walked.Totals.Folders, 3);
-  EXPECT_EQ(on.World.Loop.Yields, 3U);  // once for each folder below the first
+  EXPECT_EQ(on.World.Loop.Yields, 4U);  // once for each folder
 }
 
 TEST(FolderWalk, WithoutSubFoldersOnlyTheFirstFolderIsRead) {
@@ -107,6 +107,18 @@ TEST(FolderWalk, StopsBetweenFolders) {
   FolderWalk walk(on.World.State, on.World.Outside, true, false);
   walk.SearchFolders(u"/R/", [&] { return !walk.Found().empty(); });
   EXPECT_EQ(walk.Found().size(), 1U);
+}
+
+TEST(FolderWalk, AStopBetweenReadingAndSortingFindsNothingMore) {
+  MemoryWorld on;
+  on.Disk.Write(u"/R/x/1");
+  on.Disk.Write(u"/R/2");
+  bool stopped = false;
+  on.World.Loop.OnYield = [&] { stopped = true; };
+  FolderWalk walk(on.World.State, on.World.Outside, true, false);
+  walk.SearchFolders(u"/R/", [&] { return stopped; });
+  EXPECT_TRUE(walk.Found().empty());
+  EXPECT_EQ(on.World.Loop.Yields, 1U);
 }
 
 }  // namespace

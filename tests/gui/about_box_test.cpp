@@ -68,6 +68,24 @@ std::vector<Text> TextsOf(const RecordingPrompter& prompts) {
   return texts;
 }
 
+// The texts with which a label is painted.
+class PaintWatch final : public QObject {
+ public:
+  explicit PaintWatch(QLabel& label) : label_(label) { label.installEventFilter(this); }
+  QStringList Texts;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      Texts << label_.text();
+    }
+    return false;
+  }
+
+ private:
+  QLabel& label_;
+};
+
 // How long this process has computed, in milliseconds.
 double ComputingTime() {
   timespec time = {};
@@ -91,6 +109,7 @@ TEST(AboutBox, Contents) {
   AboutWorld world(u"127.0.0.1:1");
   EXPECT_EQ(world.Box.objectName(), QStringLiteral("frmAbout"));
   EXPECT_EQ(world.Box.windowTitle(), QStringLiteral("Vorlane 2006 - About"));
+  EXPECT_EQ(world.TextOf("lblTitle"), QStringLiteral("Vorlane 2006"));
   EXPECT_EQ(world.TextOf("lblversion"), QStringLiteral("Version 1.20"));
   EXPECT_EQ(world.TextOf("lblUpdate"), QStringLiteral("Check for Update"));
   EXPECT_EQ(world.TextOf("lblURL"), ToQString(VendorAddress));
@@ -111,6 +130,38 @@ TEST(AboutBox, LinkOpensTheVendorsAddress) {
   QTest::keyClick(&world.Find<QWidget>("lblURL"), Qt::Key_Return);
   EXPECT_EQ(world.Opened.size(), 3);
   EXPECT_TRUE(world.Box.isVisible());
+}
+
+TEST(AboutBox, ADoubleClickIsOneClick) {
+  AboutWorld world(u"127.0.0.1:1");
+  auto& link = world.Find<QWidget>("lblURL");
+  const QPointF middle = link.rect().center();
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                          QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, middle, link.mapToGlobal(middle), Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(&link, &event);
+  }
+  EXPECT_EQ(world.Opened.size(), 1);
+}
+
+// The desktop hands addresses of a scheme to whoever asks for them.
+class AddressCatcher final : public QTextBrowser {
+ public:
+  QList<QUrl> Urls;
+
+ protected:
+  void doSetSource(const QUrl& url, QTextDocument::ResourceType /*type*/) override { Urls << url; }
+};
+
+TEST(OpenInBrowser, AnAddressIsOpenedAndNoneIsNot) {
+  AddressCatcher catcher;
+  QDesktopServices::setUrlHandler(QStringLiteral("https"), &catcher, "setSource");
+  OpenInBrowser(ToQString(VendorAddress));
+  OpenInBrowser({});
+  QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+  EXPECT_EQ(catcher.Urls, QList<QUrl>{QUrl(ToQString(VendorAddress))});
 }
 
 TEST(AboutBox, OkClosesTheBox) {
@@ -164,6 +215,7 @@ TEST(AboutBox, WhatIsSeenDuringTheWait) {
     seen = true;
     EXPECT_EQ(world.TextOf("lblUpdate"), QStringLiteral("Checking..."));
     EXPECT_EQ(world.Box.cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(world.Find<QLabel>("lblUpdate").cursor().shape(), Qt::WaitCursor);
     EXPECT_FALSE(world.Gate.IsIdle());
     server.Go();
   });
@@ -176,7 +228,10 @@ TEST(AboutBox, WhatIsSeenDuringTheWait) {
 TEST(AboutBox, RefusedConnection) {
   const RefusedPort refused;
   AboutWorld world(refused.Address());
+  PaintWatch painted(world.Find<QLabel>("lblUpdate"));
   world.Click("lblUpdate");
+  // The call that follows may block: the caption has to be on the screen before.
+  EXPECT_TRUE(painted.Texts.contains("Checking...")) << painted.Texts.join('|').toStdString();
   EXPECT_TRUE(world.IsAtRest());
   EXPECT_TRUE(world.Recorded.Boxes.empty());
 }
@@ -197,6 +252,25 @@ TEST(AboutBox, LateAnswerIsShownOnce) {
     EXPECT_TRUE(world.IsAtRest());
   }
   EXPECT_EQ(OpenDescriptors(), before);
+}
+
+// Nothing may close the window under the box of a late answer.
+TEST(AboutBox, ALateAnswerCountsAsAHandlerThatRuns) {
+  class GatePrompter final : public Prompter {
+   public:
+    const EventGate* Gate = nullptr;
+    std::vector<bool> Idle;
+    void Show(BoxIcon, TextView, TextView) override { Idle.push_back(Gate->IsIdle()); }
+    BoxAnswer AskYesNo(BoxIcon, TextView, TextView, BoxAnswer unasked) override { return unasked; }
+  };
+  HttpServer server({AnswerLater("late")});
+  GatePrompter prompts;
+  AboutWorld world(server.Address(), NoPatience, prompts);
+  prompts.Gate = &world.Gate;
+  world.Click("lblUpdate");
+  server.Go();
+  EXPECT_TRUE(WaitFor([&] { return !prompts.Idle.empty(); }));
+  EXPECT_EQ(prompts.Idle, std::vector<bool>{false});
 }
 
 TEST(AboutBox, WaitingTakesNoComputingTime) {
@@ -281,7 +355,8 @@ TEST(AboutBox, LongAnswerFitsTheScreen) {
   while (lines.size() < 8000) {
     lines += "a\n";
   }
-  for (const std::string& text : {lines, std::string(8000, 'x'), std::string(8000, '\n')}) {
+  for (const std::string& text : {lines, std::string(8000, 'x'), std::string(8000, '\n'),
+                                  "see https://x.test/" + std::string(300, 'x') + " for more"}) {
     HttpServer server({ReplyWith({text})});
     QtPrompter prompts;
     AboutWorld world(server.Address(), Patience, prompts);

@@ -143,6 +143,61 @@ TEST_F(JobsTest, ClosingInTheMiddleOfAPreviewEndsItFirst) {
   EXPECT_EQ(Renamed(), 0);
 }
 
+// Both come out of one look at the message queue when a hand is quicker than the screen.
+TEST_F(JobsTest, AnOperationPickedRightBeforeEnterIsTheOneThatRuns) {
+  World.LoadOperations({u"Operation Name:\tX", u"Step: x<FILENAME>", u"Help Message: h",
+                        u"Available Boxes: 0", u"", u"Operation Name:\tY", u"Step: y<FILENAME>",
+                        u"Help Message: h", u"Available Boxes: 0", u""});
+  World.Main.SelectOperation(1);
+  auto& tree = World.Find<QTreeWidget>("lstRenamingOperations");
+  for (const int key : {Qt::Key_Down, Qt::Key_Return}) {
+    QCoreApplication::postEvent(&tree, new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+  }
+  QCoreApplication::sendPostedEvents(&tree);
+  EXPECT_TRUE(World.Folder.Exists("yf10000"));
+  EXPECT_FALSE(World.Folder.Exists("xf10000"));
+}
+
+TEST_F(JobsTest, ARowPickedRightBeforeEnterIsTheOneThatIsRenamed) {
+  auto& list = World.Find<QTreeView>("lstFileList");
+  for (const int key : {Qt::Key_Down, Qt::Key_Return}) {
+    QCoreApplication::postEvent(&list, new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+  }
+  QCoreApplication::sendPostedEvents(&list);
+  EXPECT_TRUE(World.Folder.Exists("xf10001"));
+  EXPECT_EQ(Renamed(), 1);
+}
+
+TEST_F(JobsTest, ClosingInTheMiddleOfAListingEndsItFirst) {
+  bool closed = false;
+  World.Main.OnClosing = [&] { closed = true; };
+  bool wasListing = false;
+  QTimer::singleShot(0, [&] {
+    wasListing = World.Main.State().Jobs.ListingState == JobState::Running;
+    World.Main.Window().close();
+    EXPECT_FALSE(closed);
+  });
+  QTest::keyClick(&World.Main.Window(), Qt::Key_F5);
+  EXPECT_TRUE(wasListing);
+  EXPECT_LT(World.Main.State().Rows.Count(), 3000);
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return closed; }));
+  EXPECT_FALSE(World.Main.Window().isVisible());
+}
+
+TEST_F(JobsTest, ASignalInTheMiddleOfAPreviewEndsItFirst) {
+  QTimer::singleShot(0, [&] { World.Main.CloseUnattended(); });
+  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return !World.Main.Window().isVisible(); }));
+  EXPECT_TRUE(World.ColumnTexts(Column::ProposedName).contains(QString()));
+}
+
+TEST_F(JobsTest, MaximizingLooksAtTheRowsAgain) {
+  QTimer& preview = World.Main.Timers().tmrAutoPreview;
+  preview.stop();
+  World.Main.Window().showMaximized();
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return preview.isActive(); }));
+}
+
 TEST_F(JobsTest, StopEndsAPreview) {
   QTimer::singleShot(0, [&] { World.Main.State().Jobs.RequestStop(); });
   QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);

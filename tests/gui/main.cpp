@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 
 #include "ui/application_look.h"
 
@@ -10,6 +11,11 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VORLANE_SOURCE_DIR "/tests/gui/screen.json");
   qputenv("VORLANE_NO_FADE", "1");
+  const QTemporaryDir home;
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME",
+                           "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+    qputenv(name, home.path().toLocal8Bit());
+  }
   QApplication app(argc, argv);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   vorlane::SetApplicationLook();

@@ -3,6 +3,7 @@
 
 #include "gui/skin_world.h"
 #include "platform/file_name_bytes.h"
+#include "support/environment_variable.h"
 
 namespace vorlane {
 namespace {
@@ -12,17 +13,7 @@ constexpr const char* Operations =
     "Operation Name:\tTwo\r\nStep: y<FILENAME>\r\nHelp Message: h2\r\nAvailable Boxes: 0\r\n";
 
 struct MainWindowLoadTest : testing::Test {
-  MainWindowLoadTest() {
-    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
-      qputenv(name, QByteArray::fromStdString(Folder.Path() + name));
-    }
-    Folder.Write("program/Operations.ini", Operations);
-  }
-  ~MainWindowLoadTest() override {
-    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
-      qunsetenv(name);
-    }
-  }
+  MainWindowLoadTest() { Folder.Write("program/Operations.ini", Operations); }
 
   struct Run {
     Run(Prompter& prompts, const Text& folder)
@@ -58,6 +49,10 @@ struct MainWindowLoadTest : testing::Test {
   }
 
   TemporaryFolder Folder;
+  EnvironmentVariable Config{"XDG_CONFIG_HOME", Folder.Path() + "config"};
+  EnvironmentVariable Data{"XDG_DATA_HOME", Folder.Path() + "data"};
+  EnvironmentVariable State{"XDG_STATE_HOME", Folder.Path() + "state"};
+  EnvironmentVariable Home{"VORLANE_HOME", Folder.Path() + "program"};  // where reports go too
   RecordingPrompter Prompts;
   std::unique_ptr<Run> Current;
 };
@@ -230,6 +225,24 @@ TEST_F(MainWindowLoadTest, AMaximizedWindowKeepsItsStoredPlace) {
   UnloadMainWindow(run.Main, run.Services);
   EXPECT_EQ(Stored(u"Width"), u"18000");
   EXPECT_EQ(Stored(u"Maximized"), u"1");
+}
+
+TEST_F(MainWindowLoadTest, AMinimizedWindowKeepsThePlaceThatItComesBackTo) {
+  Run& run = Load();
+  FrmMain& window = run.Main.Window();
+  window.move(120, 60);
+  window.resize(1100, 600);
+  const TwipsRect before = window.NormalPlacement();
+  window.showMinimized();
+  ASSERT_TRUE(window.isMinimized());
+  EXPECT_EQ(window.NormalPlacement().Left, before.Left);
+  EXPECT_EQ(window.NormalPlacement().Top, before.Top);
+  UnloadMainWindow(run.Main, run.Services);
+  EXPECT_EQ(Stored(u"Left"), u"1800");
+  EXPECT_EQ(Stored(u"Top"), u"900");
+  EXPECT_EQ(Stored(u"Width"), u"16500");
+  EXPECT_EQ(Stored(u"Height"), u"9000");
+  EXPECT_EQ(Stored(u"Maximized"), u"0");
 }
 
 TEST_F(MainWindowLoadTest, AReportTellsWhatTheProgramIsDoing) {

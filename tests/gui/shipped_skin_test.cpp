@@ -6,7 +6,7 @@
 #include <QtWidgets>
 #include <algorithm>
 #include <cmath>
-#include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -42,7 +42,7 @@ QImage Picture(const std::string& name, const char* format) {
   QImageReader reader(ShippedFile("data/Skin/" + name));
   reader.setDecideFormatFromContent(true);
   EXPECT_EQ(reader.format(), QByteArray(format)) << name;
-  const QImage picture = reader.read().convertToFormat(QImage::Format_ARGB32);
+  QImage picture = reader.read().convertToFormat(QImage::Format_ARGB32);
   EXPECT_FALSE(picture.isNull()) << name;
   return picture;
 }
@@ -82,6 +82,8 @@ struct ButtonPicture {
   const char* Name;
   int Width;
   int Height;
+
+  friend void PrintTo(const ButtonPicture& picture, std::ostream* out) { *out << picture.Name; }
 };
 
 constexpr ButtonPicture ButtonPictures[] = {
@@ -115,10 +117,9 @@ std::vector<bool> Drawing(const QImage& strip, const QImage& mask) {
   }
   const auto [low, high] = std::minmax_element(brightness.begin(), brightness.end());
   const double middle = (*low + *high) / 2;
-  std::vector<bool> drawing;
-  for (const double value : brightness) {
-    drawing.push_back(value > middle);
-  }
+  std::vector<bool> drawing(brightness.size());
+  std::transform(brightness.begin(), brightness.end(), drawing.begin(),
+                 [middle](double value) { return value > middle; });
   return drawing;
 }
 

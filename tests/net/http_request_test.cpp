@@ -55,6 +55,7 @@ TEST(HttpRequest, SchemeThatIsntOne) {
       {u"http.example.test/a", u"", {{u"http.example.test", 80, u"/a"}}},
       {u"ftp://example.test/a", u"", {}},  // "ftp" is the host, and "" no port
       {u"htt", u"", {{u"htt", 80, u"/"}}},
+      {u"http//a/b", u"", {{u"a", 80, u"/b"}}},
   });
 }
 
@@ -79,6 +80,8 @@ TEST(HttpRequest, UrlThroughProxy) {
       {u"example.test/a.txt", u"p:3128", {{u"p", 3128, u"http://example.test/a.txt"}}},
       {u"http://example.test/a.txt", u"p:3128", {{u"p", 3128, u"http://example.test/a.txt"}}},
       {u"example.test", u"p:3128", {{u"p", 3128, u"http://example.test/"}}},
+      {u"http://a/", u"p:3128", {{u"p", 3128, u"http://a/"}}},
+      {u"https://a", u"p:3128", {{u"p", 3128, u"https://a/"}}},
       {u"HTTP://example.test", u"p:3128", {{u"p", 3128, u"HTTP://example.test/"}}},
       {u"example.test:8080/a", u"p:3128", {{u"p", 3128, u"http://example.test:8080/a"}}},
       {u"a", u":3128", {{u"", 3128, u"http://a/"}}},

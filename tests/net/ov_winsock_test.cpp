@@ -7,6 +7,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "net/socket_calls.h"
 #include "support/http_server.h"
 #include "support/poll_loop.h"
@@ -184,7 +186,9 @@ TEST(OvWinsock, ResolveHost) {
   EXPECT_EQ(sockets.ResolveHost(u"127.0.0.1"), address("127.0.0.1"));
   EXPECT_EQ(sockets.ResolveHost(u"1.2.3.4"), address("1.2.3.4"));
   EXPECT_EQ(sockets.ResolveHost(u"localhost"), address("127.0.0.1"));
-  for (const TextView nobody : {u"", u" ", u"256.1.1.1", u"127.0.0.1\r\nX: y", u"h\u20ACst"}) {
+  for (const TextView nobody :
+       {TextView(u""), TextView(u" "), TextView(u"256.1.1.1"), TextView(u"127.0.0.1\r\nX: y"),
+        TextView(u"h\u20ACst"), TextView(u"127.0.0.1\0x", 11)}) {
     EXPECT_EQ(sockets.ResolveHost(nobody), -1);
   }
 }
@@ -240,6 +244,53 @@ TEST(OvWinsock, StartSockets) {
   EXPECT_TRUE(sockets.StartSockets(description));
   EXPECT_TRUE(sockets.StartSockets(description));
   EXPECT_EQ(description, u"");
+}
+
+// Somebody does listen there: what is refused is the number.
+TEST(OvWinsock, PortMinusOneIsNoPort) {
+  const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in address = {};
+  address.sin_family = AF_INET;
+  address.sin_port = htons(65535);
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  if (bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+      listen(listener, 1) != 0) {
+    CloseSocket(listener);
+    GTEST_SKIP() << "the port is taken";
+  }
+  PollLoop window;
+  EXPECT_EQ(OvWinsock().ConnectToHost(u"127.0.0.1", -1, window), -1);
+  EXPECT_EQ(window.Watched, -1);
+  CloseSocket(listener);
+}
+
+// One call; the system takes what it has room for.
+TEST(OvWinsock, SendingMoreThanTheSystemTakesReturnsAtOnce) {
+  HttpServer server({[](HttpConnection& connection) { connection.WaitForGo(); }});
+  PollLoop window;
+  OvWinsock sockets;
+  int socket = sockets.ConnectToHost(u"127.0.0.1", SignedPort(server.Port()), window);
+  const int number = socket;
+  sockets.SocketSend(socket, std::string(32'000'000, 'x'));
+  EXPECT_EQ(socket, number);
+  server.Go();
+  server.Finish();
+  CloseSocket(socket);
+}
+
+TEST(ReceiveBytes, AClosedPeerIsTheEndWhateverTheLastErrorWas) {
+  HttpServer server({[](HttpConnection&) {}});
+  PollLoop window;
+  const int socket = OvWinsock().ConnectToHost(u"127.0.0.1", SignedPort(server.Port()), window);
+  server.Finish();
+  bool ended = false;
+  window.OnNotice = [&] {
+    errno = EAGAIN;
+    ended = ReceiveBytes(socket, 10).Ended;
+  };
+  window.YieldBlocking(5000);
+  EXPECT_TRUE(ended);
+  CloseSocket(socket);
 }
 
 }  // namespace vorlane

@@ -2,35 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 #include "platform/code_page.h"
+#include "support/environment_variable.h"
 #include "support/fake_proxy.h"
 
 namespace vorlane {
 
 namespace {
-
-// Gives the environment variable a value and takes it back.
-class ScopedVariable {
- public:
-  ScopedVariable(const char* name, const char* value) : name_(name) {
-    const char* old = std::getenv(name);
-    if (old != nullptr) {
-      old_ = old;
-    }
-    Set(value);
-  }
-  ~ScopedVariable() { Set(old_ ? old_->c_str() : nullptr); }
-  ScopedVariable(const ScopedVariable&) = delete;
-  ScopedVariable& operator=(const ScopedVariable&) = delete;
-
- private:
-  void Set(const char* value) { value == nullptr ? unsetenv(name_) : setenv(name_, value, 1); }
-
-  const char* name_;
-  std::optional<std::string> old_;
-};
 
 std::string ProxyOf(const std::optional<Text>& server, std::optional<std::int32_t> enable,
                     const std::optional<Text>& environment = std::nullopt) {
@@ -99,14 +77,14 @@ TEST(Proxy, HostAndPortOfAUrl) {
 }
 
 TEST(Proxy, VariableInLowerCaseOnly) {
-  const ScopedVariable upper("HTTP_PROXY", "http://upper:1");
+  const EnvironmentVariable upper("HTTP_PROXY", "http://upper:1");
   FakeProxy sources;
   {
-    const ScopedVariable lower("http_proxy", "http://lower:2");
+    const EnvironmentVariable lower("http_proxy", "http://lower:2");
     EXPECT_EQ(sources.ProxySources::HttpProxy(), Text(u"http://lower:2"));
   }
-  for (const char* unset : {"", static_cast<const char*>(nullptr)}) {
-    const ScopedVariable lower("http_proxy", unset);
+  for (const auto& unset : {std::optional<std::string>(), std::optional<std::string>("")}) {
+    const EnvironmentVariable lower("http_proxy", unset);
     EXPECT_EQ(sources.ProxySources::HttpProxy(), std::nullopt);
   }
 }

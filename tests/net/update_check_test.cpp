@@ -7,6 +7,7 @@
 #include "net/socket_calls.h"
 #include "platform/code_page.h"
 #include "support/fake_proxy.h"
+#include "support/form_world.h"
 #include "support/http_server.h"
 #include "support/poll_loop.h"
 
@@ -133,13 +134,27 @@ TEST(UpdateCheck, OnlyTheFirstPartIsShown) {
   EXPECT_EQ(CheckAgainst({"first", Headers + "second"}), Texts{"first"});
 }
 
+// What has arrived is read by one call of 8192 bytes.
 TEST(UpdateCheck, LongReplyIsCut) {
   const std::string body(20480, 'x');
-  const Texts shown = CheckAgainst({Headers + body});
-  ASSERT_EQ(shown.size(), 1U);
-  EXPECT_FALSE(shown[0].empty());
-  EXPECT_LE(shown[0].size(), 8192 - Headers.size());
-  EXPECT_TRUE(body.starts_with(shown[0]));
+  HttpServer server({ReplyWith({Headers + body})});
+  CheckWorld world(server.Address());
+  world.Loop.OnNotice = [&] {
+    server.Finish();
+    world.Check.DataArrival();
+  };
+  world.Check.lblUpdate_Click();
+  EXPECT_EQ(world.Prompts.Shown, Texts{std::string(8192 - Headers.size(), 'x')});
+}
+
+TEST(UpdateCheck, TheShippedOneAsksTheVendorAndWaitsTenSeconds) {
+  EXPECT_EQ(UpdateCheckSettings().Host, VendorHost);
+  EXPECT_EQ(UpdateCheckSettings().WaitMilliseconds, 10000U);
+}
+
+TEST(UpdateCheck, HeadersInTwoParts) {
+  EXPECT_EQ(CheckAgainst({"HTTP/1.0 200 OK\r\nA: b", "\r\nC: d\r\n\r\nbody"}),
+            Texts{"\r\nC: d\r\n\r\nbody"});
 }
 
 TEST(UpdateCheck, WhatTheServerSaysIsMadeHarmless) {
@@ -284,6 +299,49 @@ TEST(UpdateCheck, WaitingSleeps) {
   EXPECT_GE(world.Loop.Turns, 1);
   EXPECT_LE(world.Loop.Turns, 3);
   EXPECT_EQ(world.Loop.Notices, 0);
+}
+
+// A clock and a loop of the test's own: a sleep ends a millisecond early.
+class EarlyLoop final : public MessageLoop {
+ public:
+  explicit EarlyLoop(SettableClock& clock) : clock_(clock) {}
+  std::vector<int> Sleeps;
+
+  void Yield() override { ADD_FAILURE() << "it doesn't sleep"; }
+  void YieldBlocking(int milliseconds) override {
+    Sleeps.push_back(milliseconds);
+    clock_.Ms += static_cast<std::uint64_t>(std::max(1, milliseconds - 1));
+  }
+
+ private:
+  SettableClock& clock_;
+};
+
+TEST(UpdateCheck, TheWaitEndsWithItsLastMillisecond) {
+  HttpServer server({[](HttpConnection& connection) { connection.WaitForReset(); }});
+  CheckWorld world(server.Address());
+  SettableClock clock;
+  EarlyLoop loop(clock);
+  UpdateCheck check(
+      {world.Sockets, world.Loop, world.Proxy, clock, loop, world.Prompts, [] { return true; }},
+      world.View, {u"1.20", server.Address()});
+  check.lblUpdate_Click();
+  EXPECT_EQ(loop.Sleeps, (std::vector<int>{10000, 1}));
+}
+
+TEST(UpdateCheck, TheAnswerIsShownBeforeTheConnectionIsClosed) {
+  HttpServer server({ReplyWith({"text"})});
+  CheckWorld world(server.Address());
+  int socket = -1;
+  bool wasOpen = false;
+  world.Loop.OnNotice = [&] {
+    socket = world.Loop.Watched;
+    world.Check.DataArrival();
+  };
+  world.Prompts.OnShow = [&] { wasOpen = fcntl(socket, F_GETFD) != -1; };
+  world.Check.lblUpdate_Click();
+  EXPECT_TRUE(wasOpen);
+  EXPECT_EQ(fcntl(socket, F_GETFD), -1);
 }
 
 TEST(UpdateCheck, SecondClickDuringTheWait) {

@@ -31,29 +31,29 @@ def background_level(x, y):
     return base + (PLATE - base) * across * down
 
 
-def rounded_box(x, y, box, radius):
-    """How much of the pixel at x, y a box with round corners covers."""
+def distance(x, y, box, radius):
+    """How far the middle of the pixel at x, y lies outside a box with round corners."""
     left, top, right, bottom = box
     dx = abs(x + 0.5 - (left + right) / 2) - (right - left) / 2 + radius
     dy = abs(y + 0.5 - (top + bottom) / 2) - (bottom - top) / 2 + radius
-    outside = (max(dx, 0.0) ** 2 + max(dy, 0.0) ** 2) ** 0.5 + min(max(dx, dy), 0.0) - radius
-    return min(1.0, max(0.0, 0.5 - outside))
+    return (max(dx, 0.0) ** 2 + max(dy, 0.0) ** 2) ** 0.5 + min(max(dx, dy), 0.0) - radius
+
+
+def rounded_box(x, y, box, radius):
+    """How much of the pixel at x, y the box covers."""
+    return min(1.0, max(0.0, 0.5 - distance(x, y, box, radius)))
 
 
 def soft_box(x, y, box, radius, blur):
     """A shadow: the box, fading out over `blur` pixels on each side of its edge."""
-    left, top, right, bottom = box
-    dx = abs(x + 0.5 - (left + right) / 2) - (right - left) / 2 + radius
-    dy = abs(y + 0.5 - (top + bottom) / 2) - (bottom - top) / 2 + radius
-    outside = (max(dx, 0.0) ** 2 + max(dy, 0.0) ** 2) ** 0.5 + min(max(dx, dy), 0.0) - radius
-    return 1 - smooth(-blur, blur, outside)
+    return 1 - smooth(-blur, blur, distance(x, y, box, radius))
 
 
 def card(ground, x, y, box, radius, face):
     """A raised card over a ground: shadow, rim of light along its upper edge, face."""
     left, top, right, bottom = box
     shadow = soft_box(x, y, (left + 1, top + 2, right - 1, bottom + 1), radius, 3)
-    level = ground + (ground * 0.35 - ground) * shadow * 0.8
+    level = ground * (1 - 0.52 * shadow)
     whole = rounded_box(x, y, box, radius)
     inner = rounded_box(x, y, (left + 1, top + 1, right - 1, bottom - 1), radius - 1)
     light = face + 34 * (1 - smooth(top, top + (bottom - top) * 0.7, y)) + 6
@@ -76,15 +76,15 @@ def bottom_bar_level(x, y):
 def picture_of(width, height, level, ground=None):
     """A picture with the ramp as its palette. Where it shows only the ground it is see-through."""
     picture = Image.new("P", (width, height))
-    colours = ramp_colours() + [ramp_colours()[74]]
+    colours = ramp_colours()
+    colours.append(colours[74])  # of what is see-through: about the background's
     picture.putpalette([part for colour in colours for part in colour])
     pixels = bytearray()
     for y in range(height):
         for x in range(width):
-            here = round(level(x, y))
-            if ground is not None and abs(level(x, y) - ground(x, y)) < 0.01:
-                here = SEE_THROUGH
-            pixels.append(here)
+            here = level(x, y)
+            shows_ground = ground is not None and abs(here - ground(x, y)) < 0.01
+            pixels.append(SEE_THROUGH if shows_ground else round(here))
     picture.putdata(pixels)
     return picture
 
