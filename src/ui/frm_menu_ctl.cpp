@@ -54,6 +54,7 @@ FrmMenuCtl::FrmMenuCtl(MenuState& menu, QWidget& owner, Prompter& boxes)
       canvas_(owner.devicePixelRatioF()) {
   setObjectName(QStringLiteral("frmMenuCtl"));
   setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu);
   setMouseTracking(true);
   menu_.SelectedIndex = 0;
   menu_.PreviousIndex = 0;

@@ -333,11 +333,10 @@ class WindowTest(unittest.TestCase):
                 self.assertLess(time.monotonic() - begin, 8)
 
     def menu(self):
-        """The program's pop-up menu, once it has its rows."""
-        found = self.display.run("xdotool", "search", "--onlyvisible", "--class",
-                                 "vorlane").stdout.split()
-        return next((window for window in found
-                     if window != self.window and 20 < self.geometry(window)[3] < 400), None)
+        """The program's pop-up menu, once it has its rows; it has no name of its own."""
+        found = self.display.run("xdotool", "search", "--onlyvisible", "--name",
+                                 "^vorlane$").stdout.split()
+        return next((window for window in found if self.geometry(window)[3] > 1), None)
 
     def right_click(self, place=BARE):
         self.click_button("3", place)
