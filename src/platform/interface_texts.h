@@ -86,6 +86,7 @@ inline constexpr int ErrorNumberOfDate = 2003;
 inline constexpr int UnknownModule = 2004;
 inline constexpr int Version = 2005;
 inline constexpr int OpenWithVorlane = 2006;
+inline constexpr int TooFewLayers = 2020;  // asked of a frame that is shaded across its width
 
 // Captions of buttons that have no picture.
 inline constexpr int Go = 2100;

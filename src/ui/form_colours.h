@@ -11,6 +11,9 @@ using FormColour = std::uint32_t;
 
 namespace DesktopColour {
 
+inline constexpr FormColour MenuText = 0x80000007;
+inline constexpr FormColour Highlight = 0x8000000D;
+inline constexpr FormColour HighlightText = 0x8000000E;
 inline constexpr FormColour ButtonFace = 0x8000000F;
 inline constexpr FormColour DisabledText = 0x80000011;
 inline constexpr FormColour ButtonText = 0x80000012;

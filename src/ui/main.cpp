@@ -8,10 +8,12 @@
 #include "platform/user_folders.h"
 #include "platform/vendor.h"
 #include "shell/start_up.h"
+#include "shell/stored_favorites.h"
 #include "ui/about_box.h"
 #include "ui/application_look.h"
 #include "ui/desktop_services.h"
 #include "ui/fade_out.h"
+#include "ui/favorites_popup.h"
 #include "ui/main_window_load.h"
 #include "ui/program_icons.h"
 #include "ui/qt_text.h"
@@ -48,6 +50,8 @@ int RunWindow(QApplication& app, const Text& commandLine) {
   prompts.SetParent(&window);
   OvWinsock sockets;
   StoredProxy proxy(services.Registry);
+  StoredFavorites favorites(services.Settings);
+  FavoritesPopup favoritesPopup(program, services.Files, favorites, prompts);
   AboutBox about({program.Gate(), sockets, proxy, services.Time, program.Loop(), prompts,
                   [&sockets] { return sockets.IsConnected(); }, OpenInBrowser},
                  {.Version = VersionText()}, &window);

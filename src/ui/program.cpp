@@ -13,6 +13,14 @@ namespace {
 // How long the balloons of a first start stand.
 constexpr int FirstStartMilliseconds = 10'000;
 
+// An open menu or list would keep the program waiting for an answer.
+void ClosePopups() {
+  QWidget* popup = QApplication::activePopupWidget();
+  while (popup != nullptr && popup->close()) {
+    popup = QApplication::activePopupWidget();
+  }
+}
+
 // Tells when a box gets or loses the focus. Another window in front, or a list that has opened, is
 // no leaving of the box.
 class FocusWatch final : public QObject {
@@ -247,6 +255,11 @@ void Program::ConnectKeys() {
       }
     });
   };
+  keys_.OnMenu = [this] {
+    if (OnMenuKey) {
+      OnMenuKey();
+    }
+  };
   keys_.OnClose = [this] { Close(); };
   keys_.OnTab = [this] { return FocusNextBox(); };
   keys_.OnNextPane = [this](bool back) { FocusNextPane(back); };
@@ -324,6 +337,7 @@ bool Program::MayClose() {
   if (OnCloseAsked) {
     OnCloseAsked();
   }
+  ClosePopups();
   const bool isBusy = !gate_.IsIdle() || QApplication::activeModalWidget() != nullptr;
   if (isBusy || !shown_) {
     closeWanted_ = true;

@@ -65,6 +65,9 @@ class Program {
   // Asks the jobs to stop and closes the window as soon as they have ended.
   void Close();
 
+  // True from the first wish to close on.
+  bool IsClosing() const { return closeWanted_ || closed_; }
+
   // The same when nobody is there to answer: a message box that is open is closed first.
   void CloseUnattended();
 
@@ -83,6 +86,9 @@ class Program {
 
   // cmdHelp.
   std::function<void()> OnHelp;
+
+  // The key for menus.
+  std::function<void()> OnMenuKey;
 
   // The window is asked to close: whatever else waits for something ends its wait.
   std::function<void()> OnCloseAsked;

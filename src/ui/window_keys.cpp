@@ -1,6 +1,7 @@
 #include "ui/window_keys.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 
 namespace vorlane {
 
@@ -21,6 +22,11 @@ bool IsEditingUndoable() {
   return box != nullptr && box->isUndoAvailable();
 }
 
+bool IsMenuByKey(const QEvent& event) {
+  return event.type() == QEvent::ContextMenu &&
+         static_cast<const QContextMenuEvent&>(event).reason() == QContextMenuEvent::Keyboard;
+}
+
 }  // namespace
 
 WindowKeys::WindowKeys(FrmMain& window) : window_(window) {
@@ -28,7 +34,7 @@ WindowKeys::WindowKeys(FrmMain& window) : window_(window) {
 }
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) {
+  if (event->type() != QEvent::KeyPress && !IsMenuByKey(*event)) {
     return false;
   }
   // Menus, the lists of combo boxes and message boxes have their keys to themselves.
@@ -36,6 +42,9 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
   const bool isOurs = widget != nullptr && widget->window() == &window_ &&
                       QApplication::activePopupWidget() == nullptr &&
                       QApplication::activeModalWidget() == nullptr;
+  if (event->type() != QEvent::KeyPress) {
+    return isOurs;  // a text box would open its own menu at the key that opens the window's
+  }
   return isOurs && TakeKey(*static_cast<QKeyEvent*>(event));
 }
 
@@ -54,6 +63,10 @@ bool WindowKeys::TakeKey(const QKeyEvent& key) {
       return plain && (key.isAutoRepeat() || Call(OnHelp));
     case Qt::Key_F5:
       return plain && Call(OnListAnew);
+    case Qt::Key_Menu:
+      return plain && (key.isAutoRepeat() || Call(OnMenu));
+    case Qt::Key_F10:
+      return key.modifiers() == Qt::ShiftModifier && (key.isAutoRepeat() || Call(OnMenu));
     case Qt::Key_F6:
       if (OnNextPane) {
         OnNextPane((key.modifiers() & Qt::ShiftModifier) != 0);

@@ -19,6 +19,7 @@ class WindowKeys final : public QObject {
   std::function<void()> OnUndo;               // Ctrl+Z
   std::function<void()> OnHelp;               // F1
   std::function<void()> OnListAnew;           // F5
+  std::function<void()> OnMenu;               // the menu key, or Shift+F10
   std::function<void()> OnClose;              // Ctrl+Q
   std::function<bool()> OnTab;                // true if the focus went to an option box
   std::function<void(bool back)> OnNextPane;  // F6

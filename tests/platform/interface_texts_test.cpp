@@ -87,6 +87,7 @@ const std::map<int, Text> Expected = {
     {2004, u"Unknown"},
     {2005, u"Version "},
     {2006, u"Open with Vorlane"},
+    {2020, u"There was an error. Make sure that Layers <> 0 or 1"},
     {2100, u"Go"},
     {2101, u"Stop"},
     {2102, u"Files"},
