@@ -430,10 +430,12 @@ class WindowTest(unittest.TestCase):
                 self.assertLess(time.monotonic() - begin, 8)
 
     def menu(self):
-        """The program's pop-up menu, once it has its rows; it has no name of its own."""
-        found = self.display.run("xdotool", "search", "--onlyvisible", "--name",
-                                 "^vorlane$").stdout.split()
-        return next((window for window in found if self.geometry(window)[3] > 1), None)
+        """The program's pop-up menu, once it has its rows; it has no title of its own."""
+        found = self.display.run("xdotool", "search", "--onlyvisible", "--class",
+                                 "vorlane").stdout.split()
+        return next((window for window in found if self.geometry(window)[3] > 1 and
+                     self.display.run("xdotool", "getwindowname",
+                                      window).stdout.strip() == "vorlane"), None)
 
     def right_click(self, place=BARE):
         self.click_button("3", place)
