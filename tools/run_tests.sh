@@ -42,7 +42,7 @@ test_program() { # test_program PROGRAM: a GoogleTest program, counted by its ow
 e2e_tests() { # e2e_tests FOLDER-OF-THE-PROGRAMS: counted by the line of Python's unittest
   local log status count bad
   log=$(mktemp)
-  python3 tests/e2e/window_test.py "$1" 2>&1 | tee "$log"
+  python3 tests/e2e/run.py "$1" 2>&1 | tee "$log"
   status=${PIPESTATUS[0]}
   count=$(sed -n 's/^Ran \([0-9]*\) tests\{0,1\} in .*/\1/p' "$log")
   bad=$(sed -n 's/^FAILED (//p' "$log" | tr -cs '0-9' '\n' | awk '{n += $1} END {print n + 0}')
