@@ -165,4 +165,7 @@ def button(name, window):
         bitmap.paste(strip, (0, state * height))
     solid = whole.coverage().point([255 if covered > 24 else 0 for covered in range(256)])
     bitmap.paste(BLACK, (0, 3 * height), solid)
+    # The mask of a picture that is scaled down may begin in the rows in front of it: nobody sees
+    # them, and in a mask they are see-through.
+    bitmap.paste(WHITE, (0, 3 * height - OPEN_ROWS, width, 3 * height))
     return bitmap
