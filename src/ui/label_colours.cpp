@@ -4,9 +4,11 @@ namespace vorlane {
 
 namespace {
 
-// A label's text may run on past the picture; its beginning tells.
+// A label's text may run on past the picture; its beginning tells, as far as the window shows it.
 bool BeginsOn(const QLabel& label, const QRect& ground) {
-  return ground.contains(QRect(label.pos(), QSize(1, label.height())));
+  const QRect beginning(label.pos(), QSize(1, label.height()));
+  const QRect seen = beginning & label.parentWidget()->rect();
+  return !seen.isEmpty() && ground.contains(seen);
 }
 
 void ShowWhite(QLabel& label, bool white) {

@@ -134,6 +134,15 @@ TEST_F(SkinLookTest, ABackgroundThatEndsAboveALabelIsNone) {
   EXPECT_EQ(TextOf("lblStatus"), Qt::white);
 }
 
+// Half the size leaves the status line less height than its letters have.
+TEST_F(SkinLookTest, ALabelIsWhiteIfWhatTheWindowShowsOfItStandsOnTheBackground) {
+  Write(u"Background.gif", Plain(1024, 522, Qt::black));
+  Take().ApplySkinScaled(700, 525);
+  const QLabel& status = Find<QLabel>("lblStatus");
+  ASSERT_GT(status.geometry().bottom(), Window.height());
+  EXPECT_EQ(TextOf("lblStatus"), Qt::white);
+}
+
 TEST_F(SkinLookTest, OnTheBottomBarAloneTheCaptionsAreWhite) {
   Write(u"BottomBar.gif", Plain(949, 130, Qt::black));
   LoadUnscaled();
