@@ -371,7 +371,7 @@ TEST(LaterStart, ShowsNoBalloons) {
 
 struct SetUpTest : testing::Test {
   SetUpTest() { Tip.setObjectName("tip"); }
-  void SetUp(std::int16_t seconds) {
+  void MakeTip(std::int16_t seconds) {
     SetBalloonToolTip(Tip, Control,
                       {.Title = u"T", .Text = u"x", .PopupOnDemand = true, .Seconds = seconds},
                       Report);
@@ -382,7 +382,7 @@ struct SetUpTest : testing::Test {
 };
 
 TEST_F(SetUpTest, SetsEveryMember) {
-  SetUp(32);
+  MakeTip(32);
   EXPECT_TRUE(Report.Reports.empty());
   EXPECT_EQ(Tip.Style(), 1);
   EXPECT_EQ(Tip.Icon(), 1);
