@@ -397,7 +397,7 @@ TEST_F(SetUpTest, SetsEveryMember) {
 TEST_F(SetUpTest, SecondsThatOverflowAreReportedAndMakeNoTip) {
   for (const int seconds : {33, 32767, -33}) {
     Report.Reports.clear();
-    SetUp(static_cast<std::int16_t>(seconds));
+    MakeTip(static_cast<std::int16_t>(seconds));
     ASSERT_EQ(Report.Reports.size(), 1u) << seconds;
     EXPECT_EQ(Report.Reports[0],
               (RecordingReport::Report{u"frmMain", u"SetBalloonToolTip", u"", 6}));
