@@ -25,7 +25,12 @@ void AplayPlayer::Stop() {
     process_.reset();
   } else {
     QProcess* process = process_.release();
-    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    QObject::connect(process, &QProcess::stateChanged, process,
+                     [process](QProcess::ProcessState state) {
+                       if (state == QProcess::NotRunning) {
+                         process->deleteLater();
+                       }
+                     });
   }
 }
 

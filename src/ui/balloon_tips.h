@@ -56,7 +56,6 @@ class BalloonTips {
 
   QWidget& ControlOf(const Row& row) const;
   void SetUp(std::size_t index, bool popupOnDemand);
-  void SetUpKeywordTip();
 
   static const std::array<Row, BalloonTipCount> Table;
 

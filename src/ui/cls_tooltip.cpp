@@ -210,6 +210,9 @@ void ClsTooltip::FollowWindow() {
 }
 
 bool ClsTooltip::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == client_ && event->type() == QEvent::Show) {
+    Raise();  // its control has taken the place of another one
+  }
   switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:

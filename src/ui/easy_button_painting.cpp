@@ -154,6 +154,7 @@ void EasyButton::SetPicture(const QImage& picture) {
   const QRegion outline = strips_.Outline();
   setMask(outline.isEmpty() ? QRegion(-1, -1, 1, 1) : outline);
   hasPicture_ = true;
+  textRectangle_ = rect().translated(drawState_ == State::Down ? QPoint(1, 1) : QPoint());
   Draw(Strip::Normal);
 }
 

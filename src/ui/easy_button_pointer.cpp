@@ -119,6 +119,11 @@ void EasyButton::PointerMoved(const MouseArguments& arguments) {
 }
 
 void EasyButton::tmrMain_Timer() {
+  // A menu or a message box may have taken the release.
+  if (pressedButton_ == LeftButton && !QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+    pressedButton_ = 0;
+    clickBegun_ = false;
+  }
   const bool isHeld = pressedButton_ == LeftButton;
   if (IsPointerOver()) {
     isHeld ? DrawStateDown() : DrawStateHover();

@@ -60,7 +60,9 @@ FavoritesPopup::FavoritesPopup(Program& program, FileSystem& files, FavoriteSlot
 
 // The gate knows of the menu as long as it is open, so that the window doesn't close under it.
 void FavoritesPopup::Open(FavoritesAskedBy asked) {
-  if (mnuFavorites_.IsOpen()) {
+  // The menu would take the release of a button that is held, which somebody waits for.
+  const bool isHeld = QGuiApplication::mouseButtons() != Qt::NoButton;
+  if (mnuFavorites_.IsOpen() || (asked == FavoritesAskedBy::Keyboard && isHeld)) {
     return;
   }
   place_ = asked == FavoritesAskedBy::Keyboard ? PlaceForKeyboard(program_.Window()) : AtPointer;

@@ -57,7 +57,15 @@ void FormGrip::SetMode(DragMode mode) {
   }
 }
 
+// A menu or a message box may have taken the release that ends a drag.
+void FormGrip::ForgetLostDrag() {
+  if (!IsLeftDown()) {
+    outline_.hide();
+  }
+}
+
 void FormGrip::HitTestResizeGrip(QPointF pointer) {
+  ForgetLostDrag();
   if (IsLeftDown() || !IsNormal()) {
     return;
   }
@@ -70,6 +78,7 @@ void FormGrip::HitTestResizeGrip(QPointF pointer) {
 }
 
 void FormGrip::Disarm() {
+  ForgetLostDrag();
   if (mode_ != DragMode::None && !outline_.isVisible()) {
     SetMode(DragMode::None);
   }
@@ -114,7 +123,11 @@ void FormGrip::ShowDragOutline(QPoint cursor) {
 
 std::optional<QSize> FormGrip::FinishDragResize(QPoint cursor) {
   outline_.hide();
-  if (!IsNormal() || mode_ == DragMode::None) {
+  if (mode_ == DragMode::None) {
+    return std::nullopt;
+  }
+  if (!IsNormal()) {
+    SetMode(DragMode::None);  // it was maximized under the drag
     return std::nullopt;
   }
   const QSize size = ComputeDragSize(cursor);

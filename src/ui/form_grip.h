@@ -42,6 +42,7 @@ class FormGrip {
 
  private:
   bool IsNormal() const;
+  void ForgetLostDrag();
   QSize ComputeDragSize(QPoint cursor) const;
   void ShowDragOutline(QPoint cursor);
   void SetMode(DragMode mode);

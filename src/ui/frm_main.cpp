@@ -188,6 +188,9 @@ void FrmMain::TakeWindowState() {
 void FrmMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) {
+    if (isMaximized() && OnMaximized) {
+      OnMaximized();
+    }
     TakeWindowState();
   }
   if (event->type() == QEvent::ActivationChange && isActiveWindow() && !activated_) {
@@ -203,8 +206,9 @@ void FrmMain::closeEvent(QCloseEvent* event) {
 }
 
 // The form and the two bars share what follows.
+// A right press in the middle of a drag is none: a menu would take the release that ends the drag.
 void FrmMain::MousePressed(const QMouseEvent& event) {
-  if (event.button() == Qt::RightButton && OnRightPress) {
+  if (event.button() == Qt::RightButton && event.buttons() == Qt::RightButton && OnRightPress) {
     OnRightPress();
   }
 }

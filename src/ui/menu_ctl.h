@@ -13,7 +13,7 @@ class MenuCtl {
  public:
   static constexpr FormColour OwnColor = 0xFFFFFFFF;
 
-  // The menu belongs to the owner's window and has its font.
+  // The menu belongs to the owner's window and has its font. The owner outlives each ShowMenu.
   MenuCtl(QWidget& owner, Prompter& boxes);
 
   MenuProperties& Properties() { return state_.Properties; }

@@ -83,8 +83,14 @@ void Skin::ApplySkinScaled(int resolutionX, int resolutionY) {
 }
 
 void Skin::AssignSounds() {
+  TextView name;
+  std::optional<Text> path;
   for (const SkinSound& sound : SkinSounds) {
-    if (const auto path = FindProgramFile(files_, soundsPath_, sound.FileName)) {
+    if (sound.FileName != name) {  // looked for once; most buttons share one
+      name = sound.FileName;
+      path = FindProgramFile(files_, soundsPath_, name);
+    }
+    if (path) {
       Button(sound.Control).SetSoundFileName(*path);
     }
   }

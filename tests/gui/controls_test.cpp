@@ -86,5 +86,16 @@ TEST(Controls, EachOneThatTakesTheFocusHasAnAccessibleName) {
             "Currently set to process one file/folder at a time");
 }
 
+TEST(Controls, TheFolderTreeFillsItsPlace) {
+  WindowWorld world;
+  world.Main.Window().resize(1400, 700);
+  EXPECT_EQ(world.Find<QWidget>("tvwFolders").size(), world.Find<QWidget>("picBrowse").size());
+}
+
+TEST(Controls, LabelsHaveTheirOwnFont) {
+  WindowWorld world;
+  EXPECT_EQ(world.Find<QLabel>("lblStatus").font().family(), "Trebuchet MS");
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -142,5 +142,19 @@ TEST(EasyButtonCaption, ADisabledButtonKeepsItsStrips) {
   EXPECT_EQ(world.Look(), enabled);
 }
 
+TEST(EasyButtonCaption, AnotherPictureTakesTheCaptionAlong) {
+  const QImage larger = FourStrips().scaled(120, 240);
+  ButtonWorld world;
+  ButtonWorld fresh;
+  for (ButtonWorld* each : {&world, &fresh}) {
+    each->Button.SetCaption(QStringLiteral("X"));
+    each->Button.SetAlign(0);
+  }
+  world.Button.SetPicture(FourStrips());
+  world.Button.SetPicture(larger);
+  fresh.Button.SetPicture(larger);
+  EXPECT_EQ(world.Look(), fresh.Look());
+}
+
 }  // namespace
 }  // namespace vorlane

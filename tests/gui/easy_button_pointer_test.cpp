@@ -343,5 +343,20 @@ TEST(EasyButtonPointer, DisabledWhileItIsHeldItComesToRest) {
   EXPECT_EQ(world.Clicks, 0);
 }
 
+TEST(EasyButtonPointer, AReleaseThatAMenuTookLeavesNothingLit) {
+  PicturedButton world;
+  world.PointAt(SolidPlace);
+  world.Press(SolidPlace);
+  ASSERT_TRUE(world.Becomes(PressedColour));
+  QMenu menu(&world.Form);
+  menu.addAction(QStringLiteral("x"));
+  menu.popup({900, 700});
+  QTest::mouseRelease(menu.windowHandle(), Qt::LeftButton, {}, {500, 200});
+  menu.close();
+  world.PointAt(OutsidePlace);
+  EXPECT_TRUE(world.Becomes(NormalColour));
+  EXPECT_FALSE(world.IsTicking());
+}
+
 }  // namespace
 }  // namespace vorlane

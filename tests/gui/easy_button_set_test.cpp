@@ -80,5 +80,24 @@ TEST(EasyButtonSet, AtRestASetShowsAtOnceAndIsTold) {
   }
 }
 
+// A release doesn't paint what is shown already: what a set has cleared stays clear.
+TEST(EasyButtonSet, AReleaseBeforeTheNextTickPaintsNothing) {
+  ButtonWorld world;
+  world.Button.SetPicture(FourStrips());
+  world.PointAt(SolidPlace);
+  ASSERT_TRUE(world.Becomes(HoverColour));
+  world.Timer().setInterval(100'000);
+  world.Button.SetCaption(QStringLiteral(" "));
+  world.Press(SolidPlace);
+  world.Release(SolidPlace);
+  EXPECT_TRUE(IsAllOf(world.Look(), GroundColour));
+}
+
+TEST(EasyButtonSet, ItsFirstSizeIsTheDesigns) {
+  ButtonWorld world;
+  const EasyButton button({world.Disk, world.Prompts, world.Sounds}, nullptr);
+  EXPECT_EQ(button.size(), QSize(156, 47));
+}
+
 }  // namespace
 }  // namespace vorlane

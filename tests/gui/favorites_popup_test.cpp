@@ -17,6 +17,13 @@ struct FavoritesPopupTest : testing::Test {
                           u"Available Boxes: 0", u""});
     World.Main.SelectOperation(1);
     World.Open(World.Folder.Path());
+    QObject::connect(&patience_, &QTimer::timeout, &patience_, [] {
+      if (QWidget* menu = Popup()) {
+        ADD_FAILURE() << "a menu is still open";
+        menu->close();
+      }
+    });
+    patience_.start(5000);
     World.Main.Window().activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&World.Main.Window()));
   }
@@ -35,6 +42,12 @@ struct FavoritesPopupTest : testing::Test {
   }
   static void Release(QWidget& menu) {
     QTest::mouseRelease(&menu, Qt::LeftButton, {}, menu.rect().center());
+  }
+  // No button stays down for the next test.
+  ~FavoritesPopupTest() override {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+      QTest::mouseRelease(&World.Main.Window(), button, {}, {10, 200});
+    }
   }
   // Goes to the nth row that can be chosen and takes it.
   static void Take(QWidget& menu, int row) {
@@ -75,6 +88,7 @@ struct FavoritesPopupTest : testing::Test {
   std::vector<std::function<void(QWidget&)>> acts_;
   std::size_t at_ = 0;
   QTimer poll_;
+  QTimer patience_;  // a menu that nobody closes would keep the test waiting for ever
 };
 
 TEST_F(FavoritesPopupTest, ARightPressWaitsForItsReleaseAndOpensTheMenu) {
@@ -274,7 +288,7 @@ TEST_F(FavoritesPopupTest, AFavoriteTakenInTheMiddleOfAPreviewComesBehindIt) {
     Take(menu, 3);
   }});
   QTimer::singleShot(0, &World.Main.Window(), [&] { MenuKey(); });
-  QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);
+  World.Main.PreviewAll();
   EXPECT_TRUE(inPreview);
   EXPECT_TRUE(AllDone());
   EXPECT_EQ(World.ColumnTexts(Column::CurrentName), QStringList({"b.txt"}));

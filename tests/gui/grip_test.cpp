@@ -238,5 +238,34 @@ TEST_F(GripTest, TheStripTakesTheBusyCursorAway) {
   EXPECT_EQ(World.Main.State().Pointer, MousePointer::Default);
 }
 
+// A menu that opens under the drag takes the release.
+TEST_F(GripTest, ADragWhoseReleaseIsLostChangesNothing) {
+  Move(1020, 518);
+  Press(1020, 518);
+  Move(1100, 600);
+  ASSERT_TRUE(Outline.isVisible());
+  QMenu menu(&Window);
+  menu.addAction(QStringLiteral("x"));
+  menu.popup({900, 700});
+  QTest::mouseRelease(menu.windowHandle(), Qt::LeftButton, {}, {500, 200});
+  menu.close();
+  Move(300, 500);
+  EXPECT_FALSE(Outline.isVisible());
+  Press(300, 500);
+  Release(300, 500);
+  EXPECT_EQ(Window.size(), QSize(1024, 522));
+}
+
+TEST_F(GripTest, ARightPressInTheMiddleOfADragIsNone) {
+  Move(1020, 518);
+  Press(1020, 518);
+  Move(1040, 530);
+  Press(1040, 530, Qt::RightButton);
+  EXPECT_EQ(RightPresses, 0);
+  Release(1040, 530, Qt::RightButton);
+  Release(1040, 530);
+  EXPECT_FALSE(Outline.isVisible());
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -407,5 +407,22 @@ TEST_F(SetUpTest, SecondsThatOverflowAreReportedAndMakeNoTip) {
   }
 }
 
+TEST_F(HelpTest, AScreenReaderGetsTheTextsOfTheBalloons) {
+  for (const Balloon& balloon : Balloons) {
+    const auto& control = World.Find<QWidget>(balloon.Control);
+    EXPECT_EQ(control.accessibleName(), TextOf(balloon.Title)) << balloon.Control;
+    const QString text = balloon.Text == 0 ? QString() : TextOf(balloon.Text).trimmed();
+    EXPECT_EQ(control.accessibleDescription(), text) << balloon.Control;
+  }
+}
+
+TEST_F(HelpTest, AButtonThatTakesAnothersPlaceHasItsBalloonAbove) {
+  PointAtHelp();
+  const RaiseLog log;
+  World.Click("cmdListFiles");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(log.Names.filter("Balloon").value(0), NameOfTip(3));
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -198,6 +198,15 @@ TEST_F(JobsTest, MaximizingLooksAtTheRowsAgain) {
   EXPECT_TRUE(WindowWorld::WaitFor([&] { return preview.isActive(); }));
 }
 
+TEST_F(JobsTest, MaximizingDoesSoAlsoIfTheSizeComesBeforeTheState) {
+  FrmMain& window = World.Main.Window();
+  window.setGeometry(window.screen()->availableGeometry());
+  QTimer& preview = World.Main.Timers().tmrAutoPreview;
+  preview.stop();
+  window.showMaximized();
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return preview.isActive(); }));
+}
+
 TEST_F(JobsTest, StopEndsAPreview) {
   QTimer::singleShot(0, [&] { World.Main.State().Jobs.RequestStop(); });
   QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);

@@ -2,6 +2,7 @@
 #include "ui/main_window_load.h"
 
 #include "gui/skin_world.h"
+#include "gui/tips.h"
 #include "platform/file_name_bytes.h"
 #include "support/environment_variable.h"
 
@@ -80,9 +81,12 @@ TEST_F(MainWindowLoadTest, StoredValuesComeBack) {
   Store(u"PreviewWidth", u"100000");
   Store(u"ArtistWidth", u"0");
   Store(u"LastOperation", u"2");
+  Store(u"Left", u"1500");
+  Store(u"Top", u"1200");
   Store(u"Width", u"18000");
   Store(u"Height", u"9000");
   Run& run = Load();
+  EXPECT_EQ(run.Main.Window().pos(), QPoint(100, 80));
   EXPECT_EQ(WildCards(run), QStringList({"*.ogg", "*.txt"}));
   EXPECT_EQ(WidthOf(run, Column::CurrentName), 200);
   EXPECT_EQ(WidthOf(run, Column::ProposedName), 267);
@@ -294,6 +298,39 @@ TEST_F(MainWindowLoadTest, AReportTellsWhatTheProgramIsDoing) {
         "Screen Height: 1050\r\n", "Module: Unknown (ReadID3v2)"}) {
     EXPECT_TRUE(log.contains(line)) << line << log.toStdString();
   }
+}
+
+TEST_F(MainWindowLoadTest, BackFromMaximizedItTakesTheStoredPlaceIfItWasStoredMaximized) {
+  Store(u"Left", u"1500");
+  Store(u"Top", u"1200");
+  Store(u"Width", u"18000");
+  Store(u"Height", u"9000");
+  Store(u"Maximized", u"1");
+  FrmMain& stored = Load().Main.Window();
+  stored.showNormal();
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return stored.size() == QSize(1200, 600); }));
+  EXPECT_EQ(stored.pos(), QPoint(100, 80));
+
+  Store(u"Maximized", u"0");
+  FrmMain& window = Load().Main.Window();
+  window.resize(1100, 600);
+  window.showMaximized();
+  window.showNormal();
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return window.size() == QSize(1100, 600); }));
+}
+
+// The least size is that of the whole design, in the compact window too.
+TEST_F(MainWindowLoadTest, TheLeastSizeDoesNotShrinkWithTheWindow) {
+  Store(u"Resolution", u"800x600");
+  Store(u"Width", u"10860");
+  Store(u"Height", u"7380");
+  EXPECT_EQ(Load().Main.Window().size(), QSize(996, 492));
+}
+
+TEST_F(MainWindowLoadTest, TheTipsAreMadeAtTheLoad) {
+  Load();
+  EXPECT_NE(TipNamed("BalloonTips(0)"), nullptr);
+  EXPECT_NE(TipNamed("KeywordTip"), nullptr);
 }
 
 }  // namespace

@@ -277,6 +277,14 @@ TEST_F(MenuCtlTest, EscapeChoosesNothing) {
     QTest::keyClick(&form, Qt::Key_Escape);
   }));
   EXPECT_TRUE(Clicks.empty());
+  // What was offered in vain isn't offered again.
+  int height = 0;
+  Add("Only one", "b");
+  Show([&](QWidget& form) {
+    height = form.height();
+    Release(form, {});
+  });
+  EXPECT_EQ(height, RowHeight() + 8);
 }
 
 TEST_F(MenuCtlTest, KeysPassOverRowsThatCantBeChosen) {

@@ -265,7 +265,6 @@ TEST_F(MenuPainting, IconsStandBesideTheWords) {
       .Write({22, 4}, "Some words", BarWords)
       .Frame();
   add();
-  hot.Image.setPixelColor(0, 0, QColor::fromRgb(FaceDark));
   QImage shown = Shown([&](QWidget& form) { Point(form, 1); });
   EXPECT_TRUE(SamePicture(shown.copy(0, 0, size.width(), RowTop(2)),
                           hot.Image.copy(0, 0, size.width(), RowTop(2))));

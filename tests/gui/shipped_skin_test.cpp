@@ -58,8 +58,9 @@ double Luminance(QRgb colour) {
 }
 
 double Contrast(QRgb one, QRgb other) {
-  const auto [low, high] = std::minmax(Luminance(one), Luminance(other));
-  return (high + 0.05) / (low + 0.05);
+  const double first = Luminance(one);
+  const double second = Luminance(other);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 // The least contrast of a text with any pixel of the ground that it stands on.
@@ -172,6 +173,7 @@ TEST_P(ShippedButton, ShowsEachStateClearly) {
 }
 
 // Where the mask leaves the button open nothing of it may have been drawn: the edge would be cut.
+// The rows right in front of the mask are white: a mask that is scaled down may begin there.
 TEST_P(ShippedButton, DrawsNothingOutsideItsMask) {
   const QImage picture = Picture(File(), "bmp");
   const QImage mask = Strip(picture, 3);
@@ -180,7 +182,12 @@ TEST_P(ShippedButton, DrawsNothingOutsideItsMask) {
       if (!IsSolid(mask, x, y)) {
         const double normal = Luminance(Strip(picture, 0).pixel(x, y));
         EXPECT_NEAR(Luminance(Strip(picture, 1).pixel(x, y)), normal, 0.1) << x << ',' << y;
-        EXPECT_NEAR(Luminance(Strip(picture, 2).pixel(x, y)), normal, 0.1) << x << ',' << y;
+        const double pressed = Luminance(Strip(picture, 2).pixel(x, y));
+        if (y >= mask.height() - 2) {
+          EXPECT_EQ(pressed, 1) << x << ',' << y;
+        } else {
+          EXPECT_NEAR(pressed, normal, 0.1) << x << ',' << y;
+        }
       }
     }
   }

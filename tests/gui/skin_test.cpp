@@ -288,5 +288,25 @@ TEST_F(SkinTest, AButtonWithoutItsSoundKeepsItsClick) {
   EXPECT_TRUE(Prompts.Boxes.empty());
 }
 
+TEST_F(SkinTest, TheFormsPlaceIsNotScaled) {
+  Window.move(30, 40);
+  Take().ApplySkinScaled(990, 990);
+  EXPECT_EQ(Window.pos(), QPoint(30, 40));
+}
+
+TEST_F(SkinTest, SoundsThatAreNoneLeaveTheButtonsAtWork) {
+  Folder.Write("Sounds/01.wav", "");
+  Folder.Write("Sounds/02.wav", "junk");
+  Take().AssignSounds();
+  EXPECT_TRUE(Prompts.Boxes.empty());
+  for (const char* name : {"cmdGo", "cmdHelp"}) {
+    int clicks = 0;
+    auto& button = Find<EasyButton>(name);
+    button.OnClick = [&] { ++clicks; };
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1) << name;
+  }
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -117,5 +117,28 @@ TEST(SkinFiles, EachButtonHasOneSoundAndGoOneOfItsOwn) {
   }
 }
 
+TEST(SkinFiles, AreTheseInThisOrder) {
+  constexpr std::pair<TextView, std::string_view> files[] = {
+      {u"Background.gif", "frmMain"},
+      {u"TopBar.gif", "imgTopBar"},
+      {u"BottomBar.gif", "imgBottomBar"},
+      {u"Go.bmp", "cmdGo"},
+      {u"Stop.bmp", "cmdStop"},
+      {u"Help.bmp", "cmdHelp"},
+      {u"Undo.bmp", "cmdUndo"},
+      {u"Exit.bmp", "cmdExit"},
+      {u"ListFiles.bmp", "cmdListFiles"},
+      {u"ListFolders.bmp", "cmdListFolders"},
+      {u"ThisFolderOnly.bmp", "cmdThisFolderOnly"},
+      {u"IncludeSubFolders.bmp", "cmdIncludeSubFolders"},
+      {u"DoOne.bmp", "cmdDoOne"},
+      {u"DoAll.bmp", "cmdDoAll"}};
+  ASSERT_EQ(std::size(SkinFiles), std::size(files));
+  for (std::size_t i = 0; i < std::size(files); ++i) {
+    EXPECT_EQ(SkinFiles[i].FileName, files[i].first);
+    EXPECT_EQ(SkinFiles[i].Control, files[i].second);
+  }
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -40,5 +40,11 @@ TEST(WindowPlacement, WhatIsNotStoredIsLeftAlone) {
   EXPECT_FALSE(applied.Left || applied.Top || applied.Width || applied.Height);
 }
 
+TEST(WindowPlacement, AScreenSmallerThanTheLeastSizeHasTheLastWord) {
+  EXPECT_EQ(
+      RestoreWindowPlacement({.Width = 100}, {.ScreenWidth = 12000, .ScreenHeight = 9000}).Width,
+      12000);
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -62,6 +62,8 @@ TEST(WaveSound, TheBuiltInClickIsLaidOutAsEver) {
     EXPECT_EQ(static_cast<unsigned char>(click[59 + 2 * i]), frames[i]);
   }
   EXPECT_EQ(click.substr(78, 8), "DISP" + Number(0x6CC, 4));
+  EXPECT_EQ(click.substr(86, 20), Number(8, 4) + Number(40, 4) + Number(31, 4) + Number(21, 4) +
+                                      Number(1, 2) + Number(8, 2));
 }
 
 TEST(WaveSound, TheBuiltInClickPlays) {
