@@ -1,10 +1,14 @@
 // The favorites on the main window.
 #include "ui/favorites_popup.h"
 
+#include "gui/pixel_rows.h"
 #include "gui/window_world.h"
 #include "platform/file_name_bytes.h"
 #include "shell/stored_favorites.h"
 #include "support/settings_world.h"
+#include "ui/form_canvas.h"
+#include "ui/form_colours.h"
+#include "ui/program_icons.h"
 
 namespace vorlane {
 namespace {
@@ -308,6 +312,35 @@ TEST_F(FavoritesPopupTest, AFavoriteTakenInTheMiddleOfAListingIsWhatIsListed) {
   World.Open(World.Folder.Path());
   EXPECT_TRUE(inListing);
   EXPECT_EQ(World.ColumnTexts(Column::CurrentName), QStringList({"b.txt"}));
+}
+
+TEST_F(FavoritesPopupTest, TheMenuHasItsPicturesAndItsColour) {
+  Slots.Save(0, Sub());
+  QImage shown;
+  WithMenus({[&](QWidget& menu) {
+    shown = menu.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QTest::keyClick(&menu, Qt::Key_Escape);
+  }});
+  MenuKey();
+  ASSERT_FALSE(shown.isNull());
+  const int row = (shown.height() - 8) / 6;
+  const auto top = [&](int at) { return 4 + (at - 1) * row; };
+  FormCanvas bare;
+  bare.BackColor = DesktopColour::ButtonFace;
+  for (const auto& [at, icon] :
+       {std::pair{3, MenuIcon::Save}, {4, MenuIcon::Delete}, {6, MenuIcon::Folder}}) {
+    bare.Resize({12, 12});
+    bare.Cls();
+    bare.PaintPicture(MenuIconPicture(icon).toImage(), {0, 0});
+    EXPECT_TRUE(SamePicture(shown.copy(4, top(at), 12, 12), bare.Picture())) << at;
+  }
+  bare.Font = QFont(QStringLiteral("MS Sans Serif"));
+  bare.Font.setPixelSize(11);
+  bare.ForeColor = 0x646400;
+  bare.Resize({shown.width() - 22 - 3, row});
+  bare.Cls();
+  bare.Print(ToQString(Sub()));
+  EXPECT_TRUE(SamePicture(shown.copy(22, top(6), bare.Picture().width(), row), bare.Picture()));
 }
 
 }  // namespace

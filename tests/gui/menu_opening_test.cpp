@@ -139,5 +139,23 @@ TEST_F(MenuOpeningTest, OnlyWhatDiffersFromTheDefaultsIsStored) {
   EXPECT_EQ(Menu.WriteProperties(), stored);
 }
 
+TEST_F(MenuOpeningTest, AnOpeningMenuMovesAwayFromTheScreensEdges) {
+  Menu.Properties().OpenAnimated = true;
+  Menu.Properties().MenuAnimSpeed = 60;
+  ASSERT_EQ(RowHeight(), 13);
+  for (int i = 0; i < 40; ++i) {
+    Add("Row");
+  }
+  QRect place;
+  Show(
+      [&](QWidget& form) {
+        place = form.geometry();
+        Release(form, {});
+      },
+      {1395, 1045});
+  EXPECT_EQ(place.x() + place.width(), 1400);
+  EXPECT_EQ(place.y(), 525);  // moved for 7870 twips, the last step before the 7920
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -45,5 +45,12 @@ TEST_F(StoredFavoritesTest, TheyGoWithAllSettings) {
   EXPECT_EQ(Slots.Read(1), u"");
 }
 
+TEST_F(StoredFavoritesTest, ASlotThatHoldsNoTextIsEmpty) {
+  World.File.Set(
+      "[Software\\VB and VBA Program Settings\\Vorlane 2006\\Settings]\nFavorite_03=binary:01 "
+      "02\n");
+  EXPECT_EQ(Slots.Read(3), u"");
+}
+
 }  // namespace
 }  // namespace vorlane
