@@ -79,7 +79,7 @@ class GripTest(WindowCase):
         wait_for(lambda: self.geometry()[2] > 1300, "the maximized window")
         width, height = self.geometry()[2:]
         self.mouse((width - 4, height - 4))
-        self.assertNotEqual(pointer_shape(self.display.name), grip)
+        wait_for(lambda: pointer_shape(self.display.name) != grip, "another shape than the grip's")
         self.mouse("mousedown", (width - 200, height - 200), "mouseup")
         self.display.run(*toggle)
         wait_for(lambda: self.geometry()[2:] == (1024, 522), "the old size")

@@ -123,7 +123,20 @@ class WindowCase(unittest.TestCase):
     def start(self, *arguments, **environment):
         self.start_process(*arguments, **environment)
         self.window = wait_for(self.find_window, "the window")
+        self.wait_for_rest()
         self.display.run("xdotool", "windowactivate", "--sync", self.window)
+
+    def wait_for_rest(self):
+        """The listing that a start begins with has ended: what is clicked in it does nothing."""
+        def computed():
+            fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rsplit(")")[1]
+            return sum(int(ticks) for ticks in fields.split()[11:13])
+
+        def rests():
+            before = computed()
+            time.sleep(0.2)
+            return computed() - before <= 2
+        wait_for(rests, "a program at rest")
 
     def find_window(self, is_main=True):
         """The main window, or a message box, which has the same title."""
