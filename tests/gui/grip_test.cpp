@@ -267,5 +267,17 @@ TEST_F(GripTest, ARightPressInTheMiddleOfADragIsNone) {
   EXPECT_FALSE(Outline.isVisible());
 }
 
+// The outline lets events run while it is drawn.
+TEST_F(GripTest, AMoveInsideTheDrawingOfTheOutlineIsDropped) {
+  Move(1020, 518);
+  Press(1020, 518);
+  Window.OnHoverReset = [this] {
+    Window.OnHoverReset = nullptr;
+    QTimer::singleShot(0, &Window, [this] { Move(1150, 650); });
+  };
+  Move(1100, 600);
+  EXPECT_EQ(Outline.size(), QSize(1100, 600));
+}
+
 }  // namespace
 }  // namespace vorlane

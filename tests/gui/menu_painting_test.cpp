@@ -405,5 +405,24 @@ TEST_F(MenuPainting, AnOpenedMenuIsDrawnWhole) {
   EXPECT_TRUE(SamePicture(Shown(), expected.Image));
 }
 
+TEST_F(MenuPainting, ARowThatIsHotWhileTheMenuOpensKeepsItsIcon) {
+  Menu.Properties().OpenAnimated = true;
+  Menu.Properties().UseIcons = true;
+  Menu.Properties().MenuAnimSpeed = 60;
+  ActsWhileOpening = true;
+  for (int i = 0; i < 40; ++i) {
+    Menu.AddItem(QStringLiteral("Word"), QStringLiteral("a"), true, Square(SomeRed));
+  }
+  QImage shown;
+  Show([&](QWidget& form) {
+    Move(form, {2, 4});
+    QTimer::singleShot(300, &form, [&] {
+      shown = PictureOf(form);
+      Release(form, {});
+    });
+  });
+  EXPECT_EQ(shown.pixel(6, 8), SomeRed);
+}
+
 }  // namespace
 }  // namespace vorlane
