@@ -6,10 +6,12 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
 #include "platform/file_name_bytes.h"
+#include "platform/program_folder.h"
 #include "support/temporary_folder.h"
 #include "ui/application_look.h"
 #include "ui/desktop_services.h"
@@ -87,6 +89,9 @@ long PeakKilobytes() {
 void Run(QElapsedTimer& sinceStart) {
   const TemporaryFolder folder;
   folder.Write("program/Operations.ini", Operations);
+  folder.Write("program/KeywordList.ini", "<FILENAME>\r\n'The whole name.");
+  const auto shipped = BytesFromText(ProgramFolder());
+  std::filesystem::create_directory_symlink(*shipped + "Skin", folder.Path() + "program/Skin");
   for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
     qputenv(name, QByteArray::fromStdString(folder.Path() + "home"));
   }
@@ -117,8 +122,8 @@ void Run(QElapsedTimer& sinceStart) {
   });
   std::printf("  %-34s %8ld MB\n", "memory, all listed", PeakKilobytes() / 1024);
   Measure("preview of all rows", [&] { program.PreviewAll(); });
-  program.Window().Controls().DoOne->click();
-  Measure("apply, with its preview", [&] { program.Window().Controls().Go->click(); });
+  program.Window().Controls().DoOne->OnClick();
+  Measure("apply, with its preview", [&] { program.Window().Controls().Go->OnClick(); });
   std::printf("  %-34s %8ld MB\n", "memory at most", PeakKilobytes() / 1024);
   if (form.Rows.Count() != Files || !form.Rows.At(Files).Name.starts_with(u"Song ")) {
     std::fprintf(stderr, "the run didn't do its job\n");
