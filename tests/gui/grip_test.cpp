@@ -12,6 +12,14 @@ struct GripTest : testing::Test {
     Move(300, 500);
     HoverResets = 0;
   }
+  // No button stays down for the next test.
+  ~GripTest() override {
+    Window.OnRightPress = nullptr;
+    Window.OnHoverReset = nullptr;
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+      Release(300, 500, button);
+    }
+  }
   // As a mouse does it, by way of the window: what takes the press gets the moves up to the
   // release.
   void Move(int x, int y) { QTest::mouseMove(Window.windowHandle(), {x, y}); }
