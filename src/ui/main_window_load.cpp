@@ -6,13 +6,12 @@
 #include <algorithm>
 #include <limits>
 
-#include "catalogue/keyword_list.h"
-#include "catalogue/operations_file.h"
 #include "platform/interface_texts.h"
 #include "platform/program_folder.h"
 #include "shell/screen_choice.h"
 #include "shell/start_up.h"
 #include "shell/stored_values.h"
+#include "ui/catalogue_load.h"
 #include "ui/qt_text.h"
 #include "ui/skin.h"
 
@@ -58,40 +57,6 @@ void LoadColumns(Program& program, Settings& settings) {
   QHeaderView& header = *program.Window().Controls().FileList->header();
   for (const Column column : AllColumns) {
     header.resizeSection(static_cast<int>(column), PixelsOf(StoredColumnWidth(settings, column)));
-  }
-}
-
-void TellMissing(Prompter& prompts, const Text& folder, TextView name) {
-  Text message = u"'";
-  message.append(folder).append(name).append(u"'");
-  message.append(InterfaceText(TextNumber::IsMissing));
-  prompts.Show(BoxIcon::Stop, ApplicationTitle, message);
-}
-
-void LoadOperations(Program& program, DesktopServices& services, const Text& folder) {
-  auto tree = LoadOperationsFile(services.Files, folder);
-  if (!tree) {
-    TellMissing(services.Prompts, folder, OperationsFileName);
-    program.Window().Controls().Go->setEnabled(false);
-    return;
-  }
-  const auto failure = tree->Failure;
-  program.ShowOperations(*std::move(tree));
-  if (failure) {
-    services.Report.ReportError(FormName, u"LoadInterfaceElements", u"", *failure);
-  }
-}
-
-void LoadKeywords(Program& program, DesktopServices& services, const Text& folder) {
-  auto list = LoadKeywordListFile(services.Files, folder);
-  if (!list) {
-    TellMissing(services.Prompts, folder, KeywordListFileName);
-    return;
-  }
-  const auto failure = list->Failure;
-  program.ShowKeywords(*std::move(list));
-  if (failure) {
-    services.Report.ReportError(FormName, u"LoadKeywordListFromFile", u"", *failure);
   }
 }
 
@@ -153,8 +118,8 @@ void LoadMainWindow(Program& program, DesktopServices& services, const Text& pro
   Settings& settings = services.Settings;
   program.Wildcard().LoadItems(settings.GetSetting(SettingsSection, SettingKey::WildCards, u""));
   LoadColumns(program, settings);
-  LoadOperations(program, services, programFolder);
-  LoadKeywords(program, services, programFolder);
+  LoadOperations(program, services.ForProgram(), programFolder);
+  LoadKeywords(program, services.ForProgram(), programFolder);
   skin.AssignSounds();
   window.ShowStatus(ToQString(InterfaceText(TextNumber::PointAtButton)));
   window.Controls().Status->setToolTip(ToQString(InterfaceText(TextNumber::PointAtQuestionMark)));
