@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QWindow>
 
 #include "platform/vendor.h"
 #include "ui/label_colours.h"
@@ -94,13 +95,22 @@ void FrmMain::InitLayout() {
 
 void FrmMain::RestorePlacement(const PlacementToApply& placement) {
   const QScopedValueRollback resizing(inResize_, true);
-  if (placement.Left || placement.Top) {
-    move(placement.Left ? PixelsOf(*placement.Left) : x(),
-         placement.Top ? PixelsOf(*placement.Top) : y());
-  }
   resize(placement.Width ? PixelsOf(*placement.Width) : width(),
          placement.Height ? PixelsOf(*placement.Height) : height());
+  if (placement.Left || placement.Top) {
+    MoveFrame({placement.Left ? PixelsOf(*placement.Left) : x(),
+               placement.Top ? PixelsOf(*placement.Top) : y()});
+  }
   ResizeIfChanged();
+}
+
+void FrmMain::MoveFrame(const QPoint& corner) {
+  move(corner);
+  if (windowHandle()) {
+    // Just back from maximized, `move` reckons with the frame that the maximized window had. The
+    // window manager knows the right one.
+    windowHandle()->setFramePosition(corner);
+  }
 }
 
 TwipsRect FrmMain::NormalPlacement() const {

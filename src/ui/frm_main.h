@@ -78,6 +78,7 @@ class FrmMain final : public QWidget {
   void MousePressed(const QMouseEvent& event);
   void MouseMoved(QPointF position);
   void MouseReleased(const QMouseEvent& event);
+  void MoveFrame(const QPoint& corner);
   void ResizeIfChanged();
   void PlaceControls();
   void PlaceStatus();

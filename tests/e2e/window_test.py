@@ -48,23 +48,34 @@ class WindowTest(WindowCase):
         self.assertEqual((self.setting("Left"), self.setting("Top")), first_place)
         self.assertEqual(self.setting("StartPath"), f"{self.files}/")
 
-    def test_a_maximized_window_comes_back_maximized_and_gets_its_old_size_again(self):
+    def place(self):
+        return [self.setting(key) for key in ("Left", "Top", "Width", "Height")]
+
+    def test_a_maximized_window_comes_back_maximized_and_gets_its_old_place_again(self):
         self.start(self.files)
         self.display.run("xdotool", "windowsize", "--sync", self.window, "1100", "600")
+        self.display.run("xdotool", "windowmove", "--sync", self.window, "150", "120")
         self.close()
+        place = self.place()
+        self.assertEqual(place[2:], [str(1100 * 15), str(600 * 15)])
         self.start()
-        self.keys("super+Up")
-        self.display.run("wmctrl", "-i", "-r", self.window, "-b", "add,maximized_vert,maximized_horz")
+        self.maximize("add")
         wait_for(lambda: self.geometry()[2] > 1300, "the maximized window")
         self.close()
         self.assertEqual(self.setting("Maximized"), "1")
-        self.assertEqual(self.setting("Width"), str(1100 * 15))
+        self.assertEqual(self.place(), place)
         self.start()
         wait_for(lambda: self.geometry()[2] > 1300, "the maximized window")
-        self.display.run("wmctrl", "-i", "-r", self.window, "-b",
-                         "remove,maximized_vert,maximized_horz")
+        self.maximize("remove")
         wait_for(lambda: self.geometry()[2:] == (1100, 600), "the old size")
+        self.wait_for_rest()
         self.close()
+        self.assertEqual(self.setting("Maximized"), "0")
+        self.assertEqual(self.place(), place)
+
+    def maximize(self, action):
+        self.display.run("wmctrl", "-i", "-r", self.window, "-b",
+                         action + ",maximized_vert,maximized_horz")
 
     def test_widths_that_nobody_changed_stay_as_they_were(self):
         self.start(self.files)
