@@ -93,7 +93,7 @@ TEST(CliEval, WithoutAFolderTheEntryIsInTheWorkingFolder) {
   TemporaryFolder folder;
   folder.Write("Sub/a.txt", std::string(1536, 'x'));
   const ProgramResult result = RunProgram(
-      VORLANE_CLI,
+      Cli,
       {.Arguments = {"eval", "<FOLDERNAME> <FILESIZE>", "a.txt"}, .Folder = folder.Path() + "Sub"});
   EXPECT_EQ(result.Output, "Sub 1.5\n");
 }

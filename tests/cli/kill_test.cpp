@@ -71,7 +71,7 @@ TEST(CliKill, LeavesWholeFilesAndATrueJournal) {
     std::vector<std::string> arguments = {"apply", folder.Path()};
     arguments.insert(arguments.end(), Steps.begin(), Steps.end());
     {
-      const RunningProgram program(VORLANE_CLI, {.Arguments = arguments});
+      const RunningProgram program(Cli, {.Arguments = arguments});
       WaitForJournal(folder, random() % LongestWait);
       std::this_thread::sleep_for(std::chrono::microseconds(random() % 300));
       program.Signal(SIGKILL);

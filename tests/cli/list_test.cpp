@@ -104,8 +104,7 @@ TEST_F(CliList, BytesOfHalfASurrogatePairAreEscapedOneByOne) {
 TEST_F(CliList, TheFolderMayBeRelative) {
   folder_.Write("Sub/a.txt");
   const auto list = [&](const std::string& name) {
-    return RunProgram(VORLANE_CLI,
-                      {.Arguments = {"list", name, "--json"}, .Folder = folder_.Path()});
+    return RunProgram(Cli, {.Arguments = {"list", name, "--json"}, .Folder = folder_.Path()});
   };
   for (const char* name : {"Sub", "Sub/", "./Sub", "Sub/../Sub"}) {
     EXPECT_EQ(Document(list(name))[0]["folder"], folder_.Path() + "Sub/") << name;

@@ -28,10 +28,10 @@ std::string OutputUnder(const std::string& locale) {
   }
   const auto run = [&](std::vector<std::string> arguments, const std::string& input = {}) {
     const ProgramResult result =
-        RunProgram(VORLANE_CLI, {.Arguments = std::move(arguments),
-                                 .Input = input,
-                                 .Environment = {{"LANG", locale}, {"LC_ALL", locale}},
-                                 .Folder = folder.Path()});
+        RunProgram(Cli, {.Arguments = std::move(arguments),
+                         .Input = input,
+                         .Environment = {{"LANG", locale}, {"LC_ALL", locale}},
+                         .Folder = folder.Path()});
     return std::to_string(result.Status) + "\n" + result.Output + result.Errors;
   };
   return run({"eval", "--jsonl"}, questions) + run({"list", "."}) +

@@ -115,16 +115,14 @@ TEST_F(CliOperations, AFileThatIsNotThereIsStatus3) {
 
 TEST_F(CliOperations, AnotherProgramFolderMayBeNamed) {
   folder_.Write("Operations.ini", WithCrLf("Operation Name:\tMine\nStep: <FILENAME>\n\n"));
-  const ProgramResult result =
-      RunProgram(VORLANE_CLI,
-                 {.Arguments = {"operations"}, .Environment = {{"VORLANE_HOME", folder_.Path()}}});
+  const ProgramResult result = RunProgram(
+      Cli, {.Arguments = {"operations"}, .Environment = {{"VORLANE_HOME", folder_.Path()}}});
   EXPECT_EQ(result.Output, "1\tMine\n");
 }
 
 TEST_F(CliOperations, AProgramFolderWithoutTheFileIsStatus3) {
-  const ProgramResult result =
-      RunProgram(VORLANE_CLI,
-                 {.Arguments = {"operations"}, .Environment = {{"VORLANE_HOME", folder_.Path()}}});
+  const ProgramResult result = RunProgram(
+      Cli, {.Arguments = {"operations"}, .Environment = {{"VORLANE_HOME", folder_.Path()}}});
   EXPECT_EQ(RefusalOf(result, 3), "no Operations.ini in " + folder_.Path());
 }
 
@@ -133,8 +131,8 @@ TEST_F(CliOperations, AreFoundInTheShareFolderOfTheInstallation) {
   folder_.Write("usr/share/vorlane/Operations.ini", TestCatalogue());
   folder_.MakeFolder("usr/bin");
   const std::string program = folder_.Path() + "usr/bin/vorlane-cli";
-  std::filesystem::copy_file(VORLANE_CLI, program);
-  const ProgramResult result = RunProgram(program, {.Arguments = {"operations"}});
+  std::filesystem::copy_file(Cli.Path(), program);
+  const ProgramResult result = RunProgram(ProgramFile(program), {.Arguments = {"operations"}});
   EXPECT_EQ(result.Status, 0) << result.Errors;
   EXPECT_TRUE(result.Output.starts_with("1\tNames:\n2\t  Upper case\n")) << result.Output;
 }
@@ -144,8 +142,8 @@ TEST_F(CliOperations, BesideTheProgramGoBeforeTheShareFolder) {
   folder_.Write("usr/share/vorlane/Operations.ini", "not this one");
   folder_.Write("usr/bin/Operations.ini", TestCatalogue());
   const std::string program = folder_.Path() + "usr/bin/vorlane-cli";
-  std::filesystem::copy_file(VORLANE_CLI, program);
-  const ProgramResult result = RunProgram(program, {.Arguments = {"operations"}});
+  std::filesystem::copy_file(Cli.Path(), program);
+  const ProgramResult result = RunProgram(ProgramFile(program), {.Arguments = {"operations"}});
   EXPECT_TRUE(result.Output.starts_with("1\tNames:\n2\t  Upper case\n")) << result.Output;
 }
 

@@ -14,8 +14,10 @@ namespace vorlane {
 
 using Json = nlohmann::ordered_json;
 
+inline const ProgramFile Cli(VORLANE_CLI);
+
 inline ProgramResult RunCli(std::vector<std::string> arguments, std::string input = {}) {
-  return RunProgram(VORLANE_CLI, {.Arguments = std::move(arguments), .Input = std::move(input)});
+  return RunProgram(Cli, {.Arguments = std::move(arguments), .Input = std::move(input)});
 }
 
 // The output as the one JSON document that it has to be.

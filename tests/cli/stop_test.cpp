@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(Signals, CliStop, testing::Values(SIGINT, SIGTERM), Nam
 
 TEST_P(CliStop, ApplyFinishesTheRowAndLeavesTheJournal) {
   RunningProgram program(
-      VORLANE_CLI, {.Arguments = {"apply", folder_.Path(), "--json", "--code", "new <FILENAME>"}});
+      Cli, {.Arguments = {"apply", folder_.Path(), "--json", "--code", "new <FILENAME>"}});
   while (Records() < 10) {
     program.ReadSomeOutput();
   }
@@ -84,7 +84,7 @@ TEST_P(CliStop, ApplyFinishesTheRowAndLeavesTheJournal) {
 // What wasn't taken back is taken back by the next undo.
 TEST_P(CliStop, UndoFinishesTheRecordAndLeavesTheJournal) {
   ASSERT_EQ(RunCli({"apply", folder_.Path(), "--code", "new <FILENAME>"}).Status, 0);
-  RunningProgram program(VORLANE_CLI, {.Arguments = {"undo", folder_.Path()}});
+  RunningProgram program(Cli, {.Arguments = {"undo", folder_.Path()}});
   while (!folder_.Exists(NameOfMany(999))) {  // the last row of the list comes first
     program.ReadSomeOutput();
   }

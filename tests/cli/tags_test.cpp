@@ -112,8 +112,8 @@ TEST(CliTags, WhatCannotBeReadIsToldOfAndTheRestIsPrinted) {
 TEST(CliTags, AFileMayHaveAnyName) {
   TemporaryFolder folder;
   folder.Write("[a,b]\xE4.mp3", "audio");
-  const ProgramResult result = RunProgram(
-      VORLANE_CLI, {.Arguments = {"tags", "--json", "[a,b]\xE4.mp3"}, .Folder = folder.Path()});
+  const ProgramResult result =
+      RunProgram(Cli, {.Arguments = {"tags", "--json", "[a,b]\xE4.mp3"}, .Folder = folder.Path()});
   EXPECT_EQ(result.Status, 0);
   EXPECT_TRUE(result.Output.starts_with(R"({"file":"[a,b]\udce4.mp3",)")) << result.Output;
 }

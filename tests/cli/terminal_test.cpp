@@ -19,7 +19,7 @@ class CliTerminal : public testing::Test {
 
 // Progress is shown once a job has taken its time: its output is read so slowly that it does.
 TEST_F(CliTerminal, ALongJobShowsItsProgressThereAndTakesItAway) {
-  RunningProgram program(VORLANE_CLI, Call(true));
+  RunningProgram program(Cli, Call(true));
   while (program.ReadErrors().find('%') == std::string::npos) {
     program.ReadSomeOutput();
   }
@@ -30,7 +30,7 @@ TEST_F(CliTerminal, ALongJobShowsItsProgressThereAndTakesItAway) {
 }
 
 TEST_F(CliTerminal, WithoutATerminalThereIsNone) {
-  RunningProgram program(VORLANE_CLI, Call(false));
+  RunningProgram program(Cli, Call(false));
   for (int reading = 0; reading < 70; ++reading) {  // each waits for a moment
     program.ReadErrors();
     program.ReadSomeOutput();

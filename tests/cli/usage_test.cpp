@@ -124,7 +124,7 @@ TEST(CliUsage, TextsThatLookLikeOptionsOrListsAreTexts) {
 
 TEST(CliUsage, OutputThatCannotBeWrittenIsAFailure) {
   const ProgramResult result =
-      RunProgram(VORLANE_CLI, {.Arguments = {"operations"}, .OutputOnFullDevice = true});
+      RunProgram(Cli, {.Arguments = {"operations"}, .OutputOnFullDevice = true});
   EXPECT_EQ(RefusalOf(result, 1), "can't write to standard output");
 }
 

@@ -86,12 +86,19 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
 
 }  // namespace
 
-RunningProgram::RunningProgram(const std::string& program, const ProgramCall& call) {
+ProgramFile::ProgramFile(std::string path)
+    : path_(std::move(path)), descriptor_(open(path_.c_str(), O_PATH | O_CLOEXEC)) {}
+
+ProgramFile::~ProgramFile() {
+  close(descriptor_);
+}
+
+RunningProgram::RunningProgram(const ProgramFile& program, const ProgramCall& call) {
   const Ends output = OpenPipe();
   const Ends errors = call.ErrorsOnTerminal ? OpenTerminal() : OpenPipe();
   const int input = OpenInput(call.Input);
   std::vector<std::string> words = call.Arguments;
-  words.insert(words.begin(), program);
+  words.insert(words.begin(), program.Path());
   std::vector<std::string> environment = EnvironmentOf(call, home_.Path());
   const auto arguments = Pointers(words);
   const auto variables = Pointers(environment);
@@ -104,7 +111,7 @@ RunningProgram::RunningProgram(const std::string& program, const ProgramCall& ca
     dup2(errors.Theirs, STDERR_FILENO);
     if (chdir(call.Folder.c_str()) == 0) {
       alarm(SecondsUntilItHangs);
-      execve(program.c_str(), arguments.data(), variables.data());
+      fexecve(program.Descriptor(), arguments.data(), variables.data());
     }
     _exit(127);
   }
@@ -182,7 +189,7 @@ ProgramResult RunningProgram::Finish() {
           std::move(errors_.Text)};
 }
 
-ProgramResult RunProgram(const std::string& program, const ProgramCall& call) {
+ProgramResult RunProgram(const ProgramFile& program, const ProgramCall& call) {
   return RunningProgram(program, call).Finish();
 }
 

@@ -31,11 +31,28 @@ struct ProgramResult {
   std::string Errors;
 };
 
+// A built program, opened when this is made: it can be run by an ordinary user who may not enter
+// the folders above it.
+class ProgramFile {
+ public:
+  explicit ProgramFile(std::string path);
+  ProgramFile(const ProgramFile&) = delete;
+  ProgramFile& operator=(const ProgramFile&) = delete;
+  ~ProgramFile();
+
+  const std::string& Path() const { return path_; }
+  int Descriptor() const { return descriptor_; }
+
+ private:
+  std::string path_;
+  int descriptor_;
+};
+
 // A program while it runs. It is ended with this object if it still runs then, and by the system
 // if it hangs.
 class RunningProgram {
  public:
-  RunningProgram(const std::string& program, const ProgramCall& call);
+  RunningProgram(const ProgramFile& program, const ProgramCall& call);
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
   ~RunningProgram();
@@ -65,6 +82,6 @@ class RunningProgram {
   Stream errors_;
 };
 
-ProgramResult RunProgram(const std::string& program, const ProgramCall& call);
+ProgramResult RunProgram(const ProgramFile& program, const ProgramCall& call);
 
 }  // namespace vorlane
