@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 
-#include "catalogue/text_file.h"
 #include "support/exif_builder.h"
 #include "support/id3_bytes.h"
 #include "support/shipped_catalogue.h"
@@ -14,22 +12,6 @@ namespace vorlane {
 namespace {
 
 using Files = std::map<std::string, std::string>;
-
-std::vector<std::string> Operations() {
-  std::vector<std::string> paths;
-  const auto tree = LoadOperationsTree(DecodeTextFile(ShippedOperationsBytes()));
-  for (const auto& [path, index] : OperationsByPath(tree)) {
-    paths.push_back(path);
-  }
-  return paths;
-}
-
-std::string TestName(const testing::TestParamInfo<std::string>& info) {
-  std::string name = info.param;
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
-  return name;
-}
 
 // Differs from name to name; the first byte is found again behind any tag.
 std::string Content(const std::string& name) {
@@ -183,7 +165,8 @@ TEST_P(AwkwardFiles, ComeBackWithTheSignsOfTheLanguageInTheirNames) {
   RunAndUndo(folder, false);
 }
 
-INSTANTIATE_TEST_SUITE_P(Catalogue, AwkwardFiles, testing::ValuesIn(Operations()), TestName);
+INSTANTIATE_TEST_SUITE_P(Catalogue, AwkwardFiles, testing::ValuesIn(ShippedOperationPaths()),
+                         NameOfPath);
 
 }  // namespace
 }  // namespace vorlane

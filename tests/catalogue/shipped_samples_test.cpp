@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 #include <optional>
 
-#include "catalogue/text_file.h"
+#include "catalogue/operation_keys.h"
 #include "support/literal_tags.h"
 #include "support/operation_samples.h"
 #include "support/sample_files.h"
@@ -18,23 +17,6 @@ namespace {
 const std::vector<OperationSample>& Samples() {
   static const auto samples = ReadOperationSamples();
   return samples;
-}
-
-std::vector<std::string> Operations() {
-  std::vector<std::string> paths;
-  const auto tree = LoadOperationsTree(DecodeTextFile(ShippedOperationsBytes()));
-  for (const auto& [path, index] : OperationsByPath(tree)) {
-    paths.push_back(path);
-  }
-  return paths;
-}
-
-// "Case/Upper case" becomes Case_Upper_case.
-std::string TestName(const testing::TestParamInfo<std::string>& info) {
-  std::string name = info.param;
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
-  return name;
 }
 
 // One sample in a folder of its own. Folders on the way to an entry needn't be named.
@@ -219,13 +201,31 @@ TEST_P(ShippedOperation, DoesTheSameToOneFileAtATime) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Catalogue, ShippedOperation, testing::ValuesIn(Operations()), TestName);
+INSTANTIATE_TEST_SUITE_P(Catalogue, ShippedOperation, testing::ValuesIn(ShippedOperationPaths()),
+                         NameOfPath);
 
 TEST(ShippedSamples, AreOfOperationsThatThereAre) {
-  const auto paths = Operations();
+  const auto paths = ShippedOperationPaths();
   for (const OperationSample& sample : Samples()) {
     EXPECT_EQ(std::count(paths.begin(), paths.end(), sample.Operation), 1)
         << "samples.txt:" << sample.Line;
+  }
+}
+
+bool LeavesSomething(const std::string& operation) {
+  return std::any_of(Samples().begin(), Samples().end(), [&](const OperationSample& sample) {
+    return sample.Operation == operation &&
+           std::any_of(sample.Entries.begin(), sample.Entries.end(),
+                       [](const SampleEntry& entry) { return entry.Leaves.has_value(); });
+  });
+}
+
+TEST(ShippedSamples, UndoLeavesSomethingWhereTheHelpSaysSoAndNowhereElse) {
+  const OperationsTree tree = LoadShippedOperations();
+  for (const auto& [path, index] : OperationsByPath(tree)) {
+    const OperationKeys keys = ReadOperationKeys(tree.OperationCodes.at(index));
+    EXPECT_EQ(Contains(keys.HelpMessage.value_or(u""), u"Beyond Undo: "), LeavesSomething(path))
+        << path;
   }
 }
 

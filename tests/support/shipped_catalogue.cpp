@@ -1,8 +1,7 @@
 #include "support/shipped_catalogue.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iterator>
 
@@ -14,6 +13,10 @@ namespace vorlane {
 std::string ShippedOperationsBytes() {
   std::ifstream file(VORLANE_SOURCE_DIR "/data/Operations.ini", std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
+}
+
+OperationsTree LoadShippedOperations() {
+  return LoadOperationsTree(DecodeTextFile(ShippedOperationsBytes()));
 }
 
 std::map<std::string, std::int32_t> OperationsByPath(const OperationsTree& tree) {
@@ -29,8 +32,23 @@ std::map<std::string, std::int32_t> OperationsByPath(const OperationsTree& tree)
   return operations;
 }
 
+std::vector<std::string> ShippedOperationPaths() {
+  std::vector<std::string> paths;
+  for (const auto& [path, index] : OperationsByPath(LoadShippedOperations())) {
+    paths.push_back(path);
+  }
+  return paths;
+}
+
+std::string NameOfPath(const testing::TestParamInfo<std::string>& info) {
+  std::string name = info.param;
+  std::replace_if(
+      name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
+  return name;
+}
+
 ShippedCatalogue::ShippedCatalogue(const TemporaryFolder& folder) : folder_(folder) {
-  const auto tree = LoadOperationsTree(DecodeTextFile(ShippedOperationsBytes()));
+  const auto tree = LoadShippedOperations();
   world_.State.OperationCodes = tree.OperationCodes;
   operations_ = OperationsByPath(tree);
 }

@@ -1,6 +1,8 @@
 // The operations that are shipped, at work on real files as a user sets them to work.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 #include <vector>
@@ -16,9 +18,15 @@
 namespace vorlane {
 
 std::string ShippedOperationsBytes();
+OperationsTree LoadShippedOperations();
 
 // Each operation's index by its path of titles, "Case/Upper case"; headings are left out.
 std::map<std::string, std::int32_t> OperationsByPath(const OperationsTree& tree);
+
+// For tests that run once for each operation: their paths, and a test's name made of one,
+// Case_Upper_case.
+std::vector<std::string> ShippedOperationPaths();
+std::string NameOfPath(const testing::TestParamInfo<std::string>& info);
 
 // One folder and the window's rules over it, for a new user: all boxes have their defaults.
 class ShippedCatalogue {
