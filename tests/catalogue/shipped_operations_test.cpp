@@ -2,16 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 #include <string>
 
 #include "catalogue/operation_keys.h"
 #include "catalogue/operations_tree.h"
-#include "catalogue/text_file.h"
 #include "engine/operation_steps.h"
+#include "support/shipped_catalogue.h"
 
 namespace vorlane {
 namespace {
@@ -23,9 +21,8 @@ constexpr std::string_view keyNames[] = {
 class ShippedOperations : public testing::Test {
  protected:
   ShippedOperations() {
-    std::ifstream file(VORLANE_SOURCE_DIR "/data/Operations.ini", std::ios::binary);
-    bytes_.assign(std::istreambuf_iterator<char>(file), {});
-    tree_ = LoadOperationsTree(DecodeTextFile(bytes_));
+    bytes_ = ShippedOperationsBytes();
+    tree_ = LoadShippedOperations();
   }
 
   // Its lines without their ends.

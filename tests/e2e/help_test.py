@@ -124,12 +124,7 @@ class HelpTest(WindowCase):
 
     def test_a_missing_keyword_list_is_told(self):
         (self.program_folder / "KeywordList.ini").unlink()
-        self.start_process(self.files)
-        box = wait_for(lambda: self.find_window(is_main=False), "the message box")
-        self.display.run("xdotool", "windowactivate", "--sync", box)
-        self.keys("Return")
-        self.window = wait_for(self.find_window, "the window")
-        self.display.run("xdotool", "windowactivate", "--sync", self.window)
+        self.start_behind_a_message(self.files)
         self.click(GO)
         self.names_become("new a.txt", "b.txt", "c.mp3")
         self.close()

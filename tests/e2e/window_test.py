@@ -143,12 +143,7 @@ class WindowTest(WindowCase):
 
     def test_a_missing_catalogue_is_told_and_bars_go(self):
         (self.program_folder / "Operations.ini").unlink()
-        self.start_process(self.files)
-        box = wait_for(lambda: self.find_window(is_main=False), "the message box")
-        self.display.run("xdotool", "windowactivate", "--sync", box)
-        self.keys("Return")
-        self.window = wait_for(self.find_window, "the window")
-        self.display.run("xdotool", "windowactivate", "--sync", self.window)
+        self.start_behind_a_message(self.files)
         self.click(GO)
         self.close()
         self.assertEqual(self.names(), ["a.txt", "b.txt", "c.mp3"])

@@ -126,6 +126,15 @@ class WindowCase(unittest.TestCase):
         self.wait_for_rest()
         self.display.run("xdotool", "windowactivate", "--sync", self.window)
 
+    def start_behind_a_message(self, *arguments):
+        """The start has something to tell first."""
+        self.start_process(*arguments)
+        box = wait_for(lambda: self.find_window(is_main=False), "the message box")
+        self.display.run("xdotool", "windowactivate", "--sync", box)
+        self.keys("Return")
+        self.window = wait_for(self.find_window, "the window")
+        self.display.run("xdotool", "windowactivate", "--sync", self.window)
+
     def wait_for_rest(self):
         """The listing that a start begins with has ended: what is clicked in it does nothing."""
         def computed():

@@ -15,12 +15,7 @@ namespace {
 
 struct FavoritesPopupTest : testing::Test {
   FavoritesPopupTest() {
-    World.Folder.Write("a.txt");
-    World.Folder.Write("sub/b.txt");
-    World.LoadOperations({u"Operation Name:\tX", u"Step: x<FILENAME>", u"Help Message: h",
-                          u"Available Boxes: 0", u""});
-    World.Main.SelectOperation(1);
-    World.Open(World.Folder.Path());
+    World.OpenSample();
     QObject::connect(&patience_, &QTimer::timeout, &patience_, [] {
       if (QWidget* menu = Popup()) {
         ADD_FAILURE() << "a menu is still open";
@@ -28,8 +23,6 @@ struct FavoritesPopupTest : testing::Test {
       }
     });
     patience_.start(5000);
-    World.Main.Window().activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&World.Main.Window()));
   }
 
   Text Sub() const { return TextFromBytes(World.Folder.Path() + "sub/"); }

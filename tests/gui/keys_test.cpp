@@ -5,16 +5,7 @@ namespace vorlane {
 namespace {
 
 struct KeysTest : testing::Test {
-  KeysTest() {
-    World.Folder.Write("a.txt");
-    World.Folder.Write("sub/b.txt");
-    World.LoadOperations({u"Operation Name:\tX", u"Step: x<FILENAME>", u"Help Message: h",
-                          u"Available Boxes: 0", u""});
-    World.Main.SelectOperation(1);
-    World.Open(World.Folder.Path());
-    World.Main.Window().activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&World.Main.Window()));
-  }
+  KeysTest() { World.OpenSample(); }
   QStringList Names() { return World.ColumnTexts(Column::CurrentName); }
 
   WindowWorld World;

@@ -190,13 +190,7 @@ TEST_F(MenuCtlTest, ItOpensAtThePlaceThatIsGivenOrAtThePointer) {
 
 TEST_F(MenuCtlTest, AtTheScreensEdgesItMovesSoAsToEndThere) {
   Add("First");
-  QRect place;
-  Show(
-      [&](QWidget& form) {
-        place = form.geometry();
-        Release(form, {});
-      },
-      {1395, 1045});
+  const QRect place = PlaceAt({1395, 1045});
   EXPECT_EQ(place.x() + place.width(), 1400);
   EXPECT_EQ(place.y() + place.height(), 1050);
   EXPECT_EQ(place.size(), QSize(WidthOf("First") + 8, RowHeight() + 8));

@@ -146,13 +146,7 @@ TEST_F(MenuOpeningTest, AnOpeningMenuMovesAwayFromTheScreensEdges) {
   for (int i = 0; i < 40; ++i) {
     Add("Row");
   }
-  QRect place;
-  Show(
-      [&](QWidget& form) {
-        place = form.geometry();
-        Release(form, {});
-      },
-      {1395, 1045});
+  const QRect place = PlaceAt({1395, 1045});
   EXPECT_EQ(place.x() + place.width(), 1400);
   EXPECT_EQ(place.y(), 525);  // moved for 7870 twips, the last step before the 7920
 }

@@ -73,6 +73,18 @@ struct MenuWorld : testing::Test {
     return Menu.ShowMenu(at.x(), at.y(), left);
   }
 
+  // Where a menu that is shown there stands.
+  QRect PlaceAt(QPoint at) {
+    QRect place;
+    Show(
+        [&](QWidget& form) {
+          place = form.geometry();
+          Release(form, {});
+        },
+        at);
+    return place;
+  }
+
   static void Move(QWidget& form, QPoint to) {
     QMouseEvent event(QEvent::MouseMove, to, form.mapToGlobal(to), Qt::NoButton, Qt::NoButton,
                       Qt::NoModifier);

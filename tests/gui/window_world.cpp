@@ -28,6 +28,17 @@ void WindowWorld::Open(const std::string& folder) {
   Main.Gate().Start([&] { Main.Browser().ShowFolderBrowser(TextFromBytes(folder)); });
 }
 
+void WindowWorld::OpenSample() {
+  Folder.Write("a.txt");
+  Folder.Write("sub/b.txt");
+  LoadOperations({u"Operation Name:\tX", u"Step: x<FILENAME>", u"Help Message: h",
+                  u"Available Boxes: 0", u""});
+  Main.SelectOperation(1);
+  Open(Folder.Path());
+  Main.Window().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Main.Window()));
+}
+
 void WindowWorld::LoadOperations(const std::vector<Text>& lines) {
   Text text;
   for (const Text& line : lines) {

@@ -25,6 +25,10 @@ struct WindowWorld {
   // Lists a folder as a selection in the tree does.
   void Open(const std::string& folder);
 
+  // Lists "a.txt" beside a folder "sub" with "b.txt", under an operation that puts an x in front,
+  // in a window that is in front.
+  void OpenSample();
+
   // Fills the tree with this operations file, its lines given without their ends.
   void LoadOperations(const std::vector<Text>& lines);
 
