@@ -23,20 +23,21 @@ check() { # check NAME COMMAND...
 }
 
 test_program() { # test_program PROGRAM: a GoogleTest program, counted by its own last lines
-  local log status good bad
+  local log status ran good bad
   log=$(mktemp)
   "$@" --gtest_brief=1 2>&1 | tee "$log"
   status=${PIPESTATUS[0]}
+  ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$log")
   good=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$log")
-  bad=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) tests\{0,1\}, listed below:$/\1/p' "$log")
   rm -f "$log"
+  bad=$((${ran:-0} - ${good:-0}))
   # A program that ended early, or counted nothing, is a failure whatever it printed.
-  if { ((status != 0)) && [[ -z "$bad" ]]; } || [[ -z "$good" ]]; then
-    bad=$((${bad:-0} + 1))
-    echo "FAILED  $1 ended with status $status"
+  if ((bad == 0)) && { ((status != 0)) || ((${ran:-0} == 0)); }; then
+    bad=1
   fi
+  ((bad == 0)) || echo "FAILED  $1 ended with status $status"
   passed=$((passed + ${good:-0}))
-  failed=$((failed + ${bad:-0}))
+  failed=$((failed + bad))
 }
 
 e2e_tests() { # e2e_tests FOLDER-OF-THE-PROGRAMS: counted by the line of Python's unittest
