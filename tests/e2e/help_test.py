@@ -10,9 +10,6 @@ TIP_TITLES = [*ALL_TIPS, "Keyword List"]
 
 
 class HelpTest(WindowCase):
-    def pointer(self, place):
-        self.display.run("xdotool", "mousemove", "--window", self.window, *map(str, place))
-
     def tips(self):
         """The titles of the tips that can be seen, each with the number of its windows."""
         titles = {}

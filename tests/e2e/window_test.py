@@ -1,9 +1,10 @@
 """Whole visits: from the start over renaming to the end, and what is kept between them."""
+import pathlib
 import signal
 import subprocess
 import time
 
-from window_world import (BIN, BOX_1, DO_ONE, EXIT, GO, PATIENCE, SECOND_OPERATION, UNDO,
+from window_world import (BIN, BOX_1, DO_ONE, EXIT, FORM, GO, PATIENCE, SECOND_OPERATION, UNDO,
                           WILDCARD, WindowCase, wait_for)
 
 
@@ -76,6 +77,23 @@ class WindowTest(WindowCase):
     def maximize(self, action):
         self.display.run("wmctrl", "-i", "-r", self.window, "-b",
                          action + ",maximized_vert,maximized_horz")
+
+    def wakings(self):
+        """How often the program wakes up in a second; a button that is hot watches the pointer."""
+        def count():
+            status = pathlib.Path(f"/proc/{self.process.pid}/status").read_text()
+            return int(status.split("\nvoluntary_ctxt_switches:")[1].split()[0])
+        before = count()
+        time.sleep(1)
+        return count() - before
+
+    def test_nothing_watches_the_pointer_while_it_is_elsewhere(self):
+        self.start(self.files)
+        self.pointer(GO)
+        wait_for(lambda: self.wakings() > 50, "a hot button")
+        self.pointer(FORM)
+        wait_for(lambda: self.wakings() < 20, "a program that sleeps")
+        self.close()
 
     def test_widths_that_nobody_changed_stay_as_they_were(self):
         self.start(self.files)

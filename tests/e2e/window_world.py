@@ -159,6 +159,9 @@ class WindowCase(unittest.TestCase):
             process.kill()
         process.wait()
 
+    def pointer(self, place):
+        self.display.run("xdotool", "mousemove", "--window", self.window, *map(str, place))
+
     def click(self, place, *more):
         self.display.run("xdotool", "mousemove", "--window", self.window, *map(str, place),
                          "click", *more, "1")
