@@ -11,7 +11,7 @@ namespace vorlane {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view JournalLineEnd = "\r\n";
 constexpr std::string_view HeaderEnd = "\r\n\r\n\r\n";
 constexpr std::string_view Warning = "This is an automatically generated Undo File. Do not edit.";
 constexpr std::string_view EscapeMark = "//";
@@ -56,8 +56,8 @@ auto TagEscapeAt(TextView text) {
 
 std::string JournalHeader() {
   std::string header = CodePageBytes(ApplicationTitle) + " - " + CodePageBytes(VendorAddress);
-  header.append(LineEnd).append(LineEnd);
-  header.append(Warning).append(LineEnd);
+  header.append(JournalLineEnd).append(JournalLineEnd);
+  header.append(Warning).append(JournalLineEnd);
   header.append(80, '-').append(HeaderEnd);
   return header;
 }
@@ -139,7 +139,7 @@ std::vector<std::string> JournalLines(std::string_view journal) {
     return {};
   }
   const auto body = journal.substr(end + HeaderEnd.size());
-  return SplitBytes(body.substr(0, body.size() - LineEnd.size()), LineEnd);
+  return SplitBytes(body.substr(0, body.size() - JournalLineEnd.size()), JournalLineEnd);
 }
 
 std::vector<std::string> SplitRecord(std::string_view line) {

@@ -7,7 +7,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr TextView LineEnd = u"\r\n";
 constexpr TextView EntryEnd = u"\r\n\r\n";
 
 // `lines` are what follows the keyword.

@@ -8,7 +8,6 @@
 namespace vorlane {
 namespace {
 
-constexpr TextView lineEnd = u"\r\n";
 constexpr TextView wildcardKey = u"Wildcard:";
 constexpr TextView registryPrefix = u"Registry(";
 constexpr int lastBox = 5;  // boxes count from 0
@@ -25,7 +24,7 @@ class KeyReader {
       return std::nullopt;
     }
     const auto start = found + key.size();
-    const auto end = code_.find(lineEnd, start);
+    const auto end = code_.find(LineEnd, start);
     if (end == TextView::npos) {
       return std::nullopt;
     }
@@ -40,7 +39,7 @@ class KeyReader {
       return u"*.*";
     }
     const auto start = found + wildcardKey.size();
-    const auto end = code_.find(lineEnd, start);
+    const auto end = code_.find(LineEnd, start);
     if (end == TextView::npos) {
       // The cursor would be in front of the text, where no search can begin.
       throw RunError(ErrorNumber::InvalidArgument);

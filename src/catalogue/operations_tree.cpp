@@ -6,7 +6,6 @@ namespace vorlane {
 namespace {
 
 constexpr TextView headerKey = u"Operation Name:";
-constexpr TextView lineEnd = u"\r\n";
 constexpr TextView emptyLineCode = u"\r\n\r";
 
 // Titles have to begin within the first 32,767 characters of the file.
@@ -23,7 +22,7 @@ Block BlockAt(TextView text, std::size_t key) {
   if (start + 1 > lastPosition) {
     throw RunError(ErrorNumber::Overflow);
   }
-  const auto end = std::min(text.find(lineEnd, start), text.size());
+  const auto end = std::min(text.find(LineEnd, start), text.size());
   const auto next = std::min(text.find(headerKey, end), text.size());
   // The last character goes: it is the LF in front of the next header or at the end of the file.
   // There is none to go if the file ends with the header.
@@ -80,7 +79,7 @@ OperationsTree LoadOperationsTree(TextView text) {
     }
   } catch (const RunError& failure) {
     tree.Failure = failure;
-    tree.FailureLine = Split(text.substr(0, key), lineEnd).size();
+    tree.FailureLine = Split(text.substr(0, key), LineEnd).size();
   }
   return tree;
 }

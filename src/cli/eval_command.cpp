@@ -20,7 +20,7 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct EvalCommandArguments {
   std::string Code;
   std::string Name;
   std::optional<std::string> Folder;
@@ -95,7 +95,7 @@ void ShowBox(Question& question, std::size_t box, const Text& content) {
   question.Boxes.Values[box] = content;
 }
 
-ExitStatus EvaluateOne(const Arguments& arguments) {
+ExitStatus EvaluateOne(const EvalCommandArguments& arguments) {
   Session session;
   Question question{.Code = TextFromBytes(arguments.Code),
                     .Name = TextFromBytes(arguments.Name),
@@ -188,7 +188,7 @@ ExitStatus EvaluateLines() {
   return session.Status();
 }
 
-ExitStatus Evaluate(const Arguments& arguments, bool hasEntry) {
+ExitStatus Evaluate(const EvalCommandArguments& arguments, bool hasEntry) {
   if (arguments.AsJsonLines) {
     if (hasEntry) {
       throw CommandError(ExitStatus::Usage, "--jsonl reads its entries from standard input");
@@ -204,7 +204,7 @@ ExitStatus Evaluate(const Arguments& arguments, bool hasEntry) {
 }  // namespace
 
 void AddEvalCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<EvalCommandArguments>();
   CLI::App* command = app.add_subcommand("eval", "Evaluate one code text for one entry");
   command->add_option("CODE", arguments->Code, "The code text")->type_name("");
   CLI::Option* name =

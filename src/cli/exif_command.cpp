@@ -17,7 +17,7 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct ExifCommandArguments {
   std::vector<std::string> Files;
   bool AsJson = false;
 };
@@ -82,7 +82,7 @@ void PrintImage(Session& session, const std::string& file, TextView path, bool a
   }
 }
 
-ExitStatus PrintImages(const Arguments& arguments) {
+ExitStatus PrintImages(const ExifCommandArguments& arguments) {
   Session session;
   std::vector<Text> paths;
   for (const std::string& file : arguments.Files) {
@@ -97,7 +97,7 @@ ExitStatus PrintImages(const Arguments& arguments) {
 }  // namespace
 
 void AddExifCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<ExifCommandArguments>();
   CLI::App* command = app.add_subcommand("exif", "Print the EXIF entries of image files");
   AddRemainingArguments(*command, "FILE", arguments->Files, "Image files");
   command->add_flag("--json", arguments->AsJson, "Print JSON, one object a line");

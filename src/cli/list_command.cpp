@@ -10,12 +10,12 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct ListCommandArguments {
   ListArguments Entries;
   bool AsJson = false;
 };
 
-ExitStatus ListEntries(const Arguments& arguments) {
+ExitStatus ListEntries(const ListCommandArguments& arguments) {
   Session session;
   arguments.Entries.List(session, u"*.*");
   const Form& form = session.State;
@@ -38,7 +38,7 @@ ExitStatus ListEntries(const Arguments& arguments) {
 }  // namespace
 
 void AddListCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<ListCommandArguments>();
   CLI::App* command = app.add_subcommand("list", "Print what the list of a folder would show");
   arguments->Entries.AddTo(*command);
   command->add_flag("--json", arguments->AsJson, "Print JSON");

@@ -13,12 +13,12 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct MatchCommandArguments {
   std::string Wildcard;
   std::vector<std::string> Names;
 };
 
-ExitStatus PrintMatches(const Arguments& arguments) {
+ExitStatus PrintMatches(const MatchCommandArguments& arguments) {
   bool any = false;
   for (const std::string& name : arguments.Names) {
     if (MatchesWildcard(TextFromBytes(name), TextFromBytes(arguments.Wildcard))) {
@@ -32,7 +32,7 @@ ExitStatus PrintMatches(const Arguments& arguments) {
 }  // namespace
 
 void AddMatchCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<MatchCommandArguments>();
   CLI::App* command = app.add_subcommand("match", "Print the names that a wildcard accepts");
   command->add_option("WILDCARD", arguments->Wildcard, "The wildcard, as the list uses it")
       ->type_name("")

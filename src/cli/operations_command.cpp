@@ -14,7 +14,7 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct OperationsCommandArguments {
   std::optional<std::string> Catalogue;
   bool AsJson = false;
 };
@@ -41,7 +41,7 @@ Json NodeJson(const OperationNode& node, const Text& code) {
           {"boxes", boxes}};
 }
 
-ExitStatus ListOperations(const Arguments& arguments) {
+ExitStatus ListOperations(const OperationsCommandArguments& arguments) {
   PosixFileSystem files;
   const OperationsTree tree = CatalogueArgument(files, arguments.Catalogue);
   Json document = Json::array();
@@ -68,7 +68,7 @@ ExitStatus ListOperations(const Arguments& arguments) {
 }  // namespace
 
 void AddOperationsCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<OperationsCommandArguments>();
   CLI::App* command = app.add_subcommand("operations", "Print the tree of operations");
   command->add_option("--catalogue", arguments->Catalogue, "Read this operations file")
       ->type_name("FILE");

@@ -9,12 +9,12 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct TagRemoveV1CommandArguments {
   std::string File;
   bool AsJson = false;
 };
 
-ExitStatus Remove(const Arguments& arguments) {
+ExitStatus Remove(const TagRemoveV1CommandArguments& arguments) {
   return ChangeTags(arguments.File, arguments.AsJson,
                     [](Session& session, FailureReport& report, TextView path) {
                       RemoveID3v1(session.Files, report, path);
@@ -24,7 +24,7 @@ ExitStatus Remove(const Arguments& arguments) {
 }  // namespace
 
 void AddTagRemoveV1Command(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<TagRemoveV1CommandArguments>();
   CLI::App* command = app.add_subcommand("tag-remove-v1", "Take the ID3v1 tag off a file");
   command->add_option("FILE", arguments->File, "The file to change")->type_name("")->required();
   command->add_flag("--json", arguments->AsJson, "Print JSON");

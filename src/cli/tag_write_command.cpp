@@ -15,7 +15,7 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct TagWriteCommandArguments {
   std::string File;
   bool V1 = false;
   bool V2 = false;
@@ -49,7 +49,7 @@ void Fill(Text& field, const std::optional<std::string>& given) {
   }
 }
 
-void FillGivenFields(ID3Tag& tag, const Arguments& arguments) {
+void FillGivenFields(ID3Tag& tag, const TagWriteCommandArguments& arguments) {
   Fill(tag.Artist, arguments.Artist);
   Fill(tag.Title, arguments.Title);
   Fill(tag.Album, arguments.Album);
@@ -60,7 +60,7 @@ void FillGivenFields(ID3Tag& tag, const Arguments& arguments) {
   tag.Present = true;
 }
 
-ExitStatus Write(const Arguments& arguments) {
+ExitStatus Write(const TagWriteCommandArguments& arguments) {
   if (!arguments.V1 && !arguments.V2) {
     throw CommandError(ExitStatus::Usage, "--v1 or --v2 is required");
   }
@@ -89,7 +89,7 @@ ExitStatus Write(const Arguments& arguments) {
 }  // namespace
 
 void AddTagWriteCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<TagWriteCommandArguments>();
   CLI::App* command = app.add_subcommand("tag-write", "Write one tag into a file");
   command->add_option("FILE", arguments->File, "The file to change")->type_name("")->required();
   CLI::Option* v1 = command->add_flag("--v1", arguments->V1, "Write the ID3v1 tag");

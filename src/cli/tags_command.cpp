@@ -15,7 +15,7 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct TagsCommandArguments {
   std::vector<std::string> Files;
   bool AsJson = false;
 };
@@ -40,7 +40,7 @@ void PrintTag(const char* version, const ID3Tag& tag) {
   PrintField(version, "genre", DecimalText(tag.Genre));
 }
 
-ExitStatus PrintTags(const Arguments& arguments) {
+ExitStatus PrintTags(const TagsCommandArguments& arguments) {
   Session session;
   std::vector<Text> paths;
   for (const std::string& file : arguments.Files) {
@@ -62,7 +62,7 @@ ExitStatus PrintTags(const Arguments& arguments) {
 }  // namespace
 
 void AddTagsCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<TagsCommandArguments>();
   CLI::App* command = app.add_subcommand("tags", "Print the ID3 tags and bit rate of files");
   AddRemainingArguments(*command, "FILE", arguments->Files, "MP3 files");
   command->add_flag("--json", arguments->AsJson, "Print JSON, one object a line");

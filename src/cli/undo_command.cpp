@@ -14,7 +14,7 @@ namespace vorlane {
 
 namespace {
 
-struct Arguments {
+struct UndoCommandArguments {
   std::string Folder;
   bool AsJson = false;
 };
@@ -86,7 +86,7 @@ void RequireJournal(Session& session, const std::string& folder) {
   }
 }
 
-ExitStatus Undo(const Arguments& arguments) {
+ExitStatus Undo(const UndoCommandArguments& arguments) {
   CatchStopSignals();
   Session session;
   session.State.CurrentPath = FolderArgument(session.Files, arguments.Folder);
@@ -107,7 +107,7 @@ ExitStatus Undo(const Arguments& arguments) {
 }  // namespace
 
 void AddUndoCommand(CLI::App& app, ExitStatus& status) {
-  auto arguments = std::make_shared<Arguments>();
+  auto arguments = std::make_shared<UndoCommandArguments>();
   CLI::App* command = app.add_subcommand("undo", "Take back the last run on a folder");
   command->add_option("FOLDER", arguments->Folder, "The folder that the run worked on")
       ->type_name("")

@@ -12,7 +12,6 @@ namespace vorlane {
 namespace {
 
 constexpr TextView SchemeStart = u"http";
-constexpr TextView LineEnd = u"\r\n";
 
 std::optional<std::int16_t> ReadPort(TextView text) {
   const auto number = ReadInt32(text);

@@ -63,7 +63,7 @@ void MakeFoldersAbove(const std::string& path) {
 
 // False where the disk knows no locks: there is nothing to wait for then, and a program that runs
 // alone needs none.
-bool IsHeldByOthers(int error) {
+bool MeansHeldByOthers(int error) {
   return error == EWOULDBLOCK || error == EINTR;
 }
 
@@ -73,7 +73,7 @@ FileHandle Lock(const std::string& path, std::chrono::milliseconds patience) {
   const auto attempts = 1 + patience / pause;
   FileHandle lock(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, FileMode));
   for (auto attempt = attempts; lock.IsOpen() && attempt > 0; --attempt) {
-    if (flock(lock.Descriptor(), LOCK_EX | LOCK_NB) == 0 || !IsHeldByOthers(errno)) {
+    if (flock(lock.Descriptor(), LOCK_EX | LOCK_NB) == 0 || !MeansHeldByOthers(errno)) {
       return lock;
     }
     std::this_thread::sleep_for(pause);

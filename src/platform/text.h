@@ -14,6 +14,9 @@ namespace vorlane {
 using Text = std::u16string;
 using TextView = std::u16string_view;
 
+// Between the lines of every text that is read or written.
+inline constexpr TextView LineEnd = u"\r\n";
+
 // Without the spaces at both ends. Only U+0020 counts: tabs and other blanks stay.
 TextView Trim(TextView text);
 

@@ -10,7 +10,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr TextView LineEnd = u"\r\n";
 constexpr std::int32_t ListColumns = 8;
 
 void AddLine(Text& text, TextView label, TextView value) {

@@ -7,13 +7,13 @@ namespace vorlane {
 
 namespace {
 
-constexpr auto User = RegistryRoot::CurrentUser;
+constexpr auto VerbRoot = RegistryRoot::CurrentUser;
 
 // The verb's key, or one below it.
 bool IsOfVerb(const KeyPlace& key) {
   const TextView path = key.Path;
-  const Text verb = VerbKey(User);
-  return key.Root == User && EqualIgnoringCase(path.substr(0, verb.size()), verb) &&
+  const Text verb = VerbKey(VerbRoot);
+  return key.Root == VerbRoot && EqualIgnoringCase(path.substr(0, verb.size()), verb) &&
          (path.size() == verb.size() || path[verb.size()] == u'\\');
 }
 
@@ -72,7 +72,7 @@ RegistryStatus VerbRegistry::SetValue(const KeyPlace& key, TextView name,
     return others_.SetValue(key, name, value);
   }
   const Text program = ProgramOf(value);
-  const bool isCommand = EqualIgnoringCase(key.Path, VerbCommandKey(User)) && name.empty();
+  const bool isCommand = EqualIgnoringCase(key.Path, VerbCommandKey(VerbRoot)) && name.empty();
   return isCommand && !program.empty() && verb_.Write(program) ? RegistryStatus::Done
                                                                : RegistryStatus::Denied;
 }

@@ -12,8 +12,6 @@ namespace {
 using Lists = std::vector<std::string>;
 using Tree = std::map<std::string, std::string>;
 
-constexpr const char* Journal = "UNDORENAME.TXT";
-
 class CliApply : public testing::Test {
  protected:
   ProgramResult Apply(Lists more) {

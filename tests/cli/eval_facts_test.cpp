@@ -24,14 +24,14 @@ struct Fact {
   std::string Result;
 };
 
-void ExpectResults(const std::vector<Fact>& table, const std::string& name = "a.jpg") {
+void ExpectFacts(const std::vector<Fact>& table, const std::string& name = "a.jpg") {
   for (const Fact& fact : table) {
     EXPECT_EQ(ResultOf(fact.Code, fact.Facts, name), fact.Result) << fact.Code << fact.Facts;
   }
 }
 
 TEST(CliEvalFacts, Size) {
-  ExpectResults({
+  ExpectFacts({
       {"<FILESIZE>", R"({"size":0})", "0"},
       {"<FILESIZE>", R"({"size":1536})", "1.5"},
       {"<FILESIZE>", R"({"size":1264179})", "1234.55"},
@@ -44,7 +44,7 @@ TEST(CliEvalFacts, Size) {
 TEST(CliEvalFacts, Dates) {
   const std::string facts = R"({"created":"2024-11-15T15:45:12","modified":"2023-02-03T00:00:00",
                                 "now":"2025-12-31T23:59:59"})";
-  ExpectResults({
+  ExpectFacts({
       {"<FILECREATIONDATE> <FILECREATIONTIME>", facts, "11/15/2024 3:45:12 PM"},
       {"<FILELASTMODIFIEDDATE> <FILELASTMODIFIEDTIME>", facts, "2/3/2023 12:00:00 AM"},
       {"<LOCALDATE> <LOCALTIME>", facts, "12/31/2025 11:59:59 PM"},
@@ -55,7 +55,7 @@ TEST(CliEvalFacts, Dates) {
 }
 
 TEST(CliEvalFacts, BitRate) {
-  ExpectResults(
+  ExpectFacts(
       {
           {"<KBIT>", R"({"kbit":192})", "192"},
           {"<KBIT>", R"({"kbit":null})", "0"},
@@ -67,7 +67,7 @@ TEST(CliEvalFacts, BitRate) {
 TEST(CliEvalFacts, ExifByNumber) {
   const std::string facts =
       R"({"exif":{"271":"Acme","272":"Model X","36867":"2020:12:31","36868":"2019/01/02 03:04:05"}})";
-  ExpectResults({
+  ExpectFacts({
       {"<IMAGEMAKE>", facts, "Acme"},
       {"<IMAGEEXIFTAG>Model</IMAGEEXIFTAG>", facts, "Model X"},
       {"<IMAGEEXIFTAG>Software</IMAGEEXIFTAG>.", facts, "."},
@@ -79,7 +79,7 @@ TEST(CliEvalFacts, ExifByNumber) {
 }
 
 TEST(CliEvalFacts, AFileWithoutExifOrOneThatCannotBeRead) {
-  ExpectResults({
+  ExpectFacts({
       {"<IMAGEMAKE>.<IMAGEDATE>.<IMAGETIME>", R"({"exif":{}})", ".."},
       {"<IMAGEMAKE>.<IMAGEDATE>.<IMAGETIME>", R"({"exif":null})", "<IMAGEMAKE>.."},
       {"<UPPERCASE>x</UPPERCASE><IMAGEEXIFTAG>Make</IMAGEEXIFTAG>", R"({"exif":{}})", "X"},

@@ -14,7 +14,7 @@ namespace vorlane {
 namespace {
 
 constexpr int Kills = 36;
-constexpr int Files = 250;
+constexpr int FilesToKillIn = 250;
 constexpr std::uintmax_t LongestWait = 18'000;  // bytes of the journal; a whole run makes more
 
 std::string NameOf(int file) {
@@ -36,7 +36,7 @@ const std::vector<std::string> Steps = {
 // Looks at every file: it is there once, with all of its audio and one of the two tags.
 int CountRenamed(const TemporaryFolder& folder) {
   int renamed = 0;
-  for (int file = 0; file < Files; ++file) {
+  for (int file = 0; file < FilesToKillIn; ++file) {
     const bool isOld = folder.Exists(NameOf(file));
     const bool isNew = folder.Exists("new " + NameOf(file));
     EXPECT_NE(isOld, isNew) << NameOf(file);
@@ -65,7 +65,7 @@ TEST(CliKill, LeavesWholeFilesAndATrueJournal) {
   int cutShort = 0;
   for (int kill = 0; kill < Kills; ++kill) {
     const TemporaryFolder folder;
-    for (int file = 0; file < Files; ++file) {
+    for (int file = 0; file < FilesToKillIn; ++file) {
       folder.Write(NameOf(file), BytesOf(file) + TagOf("Old"));
     }
     std::vector<std::string> arguments = {"apply", folder.Path()};
@@ -77,10 +77,10 @@ TEST(CliKill, LeavesWholeFilesAndATrueJournal) {
       program.Signal(SIGKILL);
     }
     const int renamed = CountRenamed(folder);
-    cutShort += renamed > 0 && renamed < Files ? 1 : 0;
+    cutShort += renamed > 0 && renamed < FilesToKillIn ? 1 : 0;
     RunCli({"undo", folder.Path()});
     int notTakenBack = 0;
-    for (int file = 0; file < Files; ++file) {
+    for (int file = 0; file < FilesToKillIn; ++file) {
       const bool isBack =
           folder.Exists(NameOf(file)) && folder.Read(NameOf(file)) == BytesOf(file) + TagOf("Old");
       notTakenBack += isBack ? 0 : 1;

@@ -14,6 +14,8 @@ namespace vorlane {
 
 using Json = nlohmann::ordered_json;
 
+inline constexpr const char* Journal = "UNDORENAME.TXT";
+
 inline const ProgramFile Cli(VORLANE_CLI);
 
 inline ProgramResult RunCli(std::vector<std::string> arguments, std::string input = {}) {

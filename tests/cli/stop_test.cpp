@@ -12,13 +12,12 @@
 namespace vorlane {
 namespace {
 
-constexpr int Files = 3000;
-constexpr const char* Journal = "UNDORENAME.TXT";
+constexpr int FilesToStopIn = 3000;
 
 class CliStop : public testing::TestWithParam<int> {
  protected:
   CliStop() {
-    WriteMany(folder_, Files);
+    WriteMany(folder_, FilesToStopIn);
     before_ = Names();
   }
 
@@ -68,7 +67,7 @@ TEST_P(CliStop, ApplyFinishesTheRowAndLeavesTheJournal) {
   EXPECT_EQ(result.Status, 1);
   const std::size_t renamed = Renamed();
   EXPECT_GE(renamed, 10U);
-  EXPECT_LT(renamed, static_cast<std::size_t>(Files));
+  EXPECT_LT(renamed, static_cast<std::size_t>(FilesToStopIn));
   EXPECT_EQ(result.Errors,
             std::to_string(renamed) + " of " + std::to_string(renamed) + " changed, stopped\n");
   EXPECT_EQ(Document(result).size(), renamed);
@@ -93,14 +92,14 @@ TEST_P(CliStop, UndoFinishesTheRecordAndLeavesTheJournal) {
   EXPECT_EQ(stopped.Status, 1);
   const std::size_t left = Renamed();
   EXPECT_GT(left, 0U);
-  EXPECT_EQ(stopped.Errors,
-            std::to_string(Files - left) + " done, 0 skipped, stopped: the journal stays\n");
-  EXPECT_EQ(Records(), static_cast<std::size_t>(Files));
+  EXPECT_EQ(stopped.Errors, std::to_string(FilesToStopIn - left) +
+                                " done, 0 skipped, stopped: the journal stays\n");
+  EXPECT_EQ(Records(), static_cast<std::size_t>(FilesToStopIn));
 
   const ProgramResult again = RunCli({"undo", folder_.Path()});
   EXPECT_EQ(again.Status, 1) << "what was taken back already is skipped";
   EXPECT_EQ(again.Errors,
-            std::to_string(left) + " done, " + std::to_string(Files - left) + " skipped\n");
+            std::to_string(left) + " done, " + std::to_string(FilesToStopIn - left) + " skipped\n");
   EXPECT_EQ(Names(), before_);
 }
 

@@ -11,8 +11,6 @@ namespace {
 using Lists = std::vector<std::string>;
 using Tree = std::map<std::string, std::string>;
 
-constexpr const char* Journal = "UNDORENAME.TXT";
-
 class CliUndo : public testing::Test {
  protected:
   ProgramResult Apply(const std::string& code) {

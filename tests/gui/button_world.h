@@ -17,6 +17,7 @@ namespace vorlane {
 inline const QColor NormalColour(200, 10, 20);
 inline const QColor HoverColour(20, 200, 30);
 inline const QColor PressedColour(40, 50, 200);
+inline const QColor NormalFrame(0xCF, 0xCF, 0xCF);  // of a button without a picture
 
 // The strips of the tests' picture are 40 by 20 in these colours. The mask has a see-through border
 // of 5 and is solid inside but for a place that is grey: that belongs to the button and isn't

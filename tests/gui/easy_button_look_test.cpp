@@ -4,8 +4,6 @@
 namespace vorlane {
 namespace {
 
-const QColor NormalFrame(0xCF, 0xCF, 0xCF);
-
 // The frame: the top edge and the left one but for their last points, then the other two.
 void ExpectFrame(const QImage& image, const QColor& topLeft, const QColor& bottomRight) {
   const int right = image.width() - 1;

@@ -5,8 +5,6 @@
 namespace vorlane {
 namespace {
 
-const QColor NormalFrame(0xCF, 0xCF, 0xCF);
-
 struct Set {
   const char* Name;
   std::function<void(EasyButton&)> Do;
