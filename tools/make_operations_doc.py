@@ -32,12 +32,14 @@ year-month-day. In the boxes you can use all of [the tag language](tag-language.
 Undo takes back names, moves and new folders completely. Tags it can't always take back; the
 operations that write them say so:
 
-- **genres in words**: a genre that is written as a word (`Rock`) and not as a number becomes number 0;
+- **some genres**: a genre that is written as a word (`Rock`) and not as a number becomes number 0,
+  and so does any genre of a tag without a comment;
 - **3/12 tracks**: a track that says how many there are becomes 00, and a track 5 becomes 05;
 - **foreign letters**: a letter that Windows-1252 lacks, such as a Cyrillic one, becomes `?`;
 - **cut data**: a tag keeps its size, so a longer text pushes out what no longer fits behind it;
-- **a new tag**: a file that had no ID3v2 tag keeps one, with empty fields, and names that are made
-  from tags no longer see its ID3v1 tag behind it.
+- **new tags and fields**: a file that had no ID3v2 tag keeps one, with empty fields, and names that
+  are made from tags no longer see its ID3v1 tag behind it; a tag that lacked a field keeps an empty
+  one.
 """
 
 

@@ -189,9 +189,13 @@ void FileList::lstFileListItemClick() {
           }
           return;
         }
+        const std::uint64_t listed = form_.Rows.Generation();
         ID3Tags tags;
         if (HasMp3Extension(form_.Rows.At(row).Name)) {
           tags = ReadRowTags(form_, services_, row);
+        }
+        if (form_.Rows.Generation() != listed) {
+          return;
         }
         form_.BoxEdited = false;
         preview_.UpdateBoxValues(row, tags.V1, tags.V2, true, true);

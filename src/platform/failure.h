@@ -1,4 +1,4 @@
-// Failures. One value type, and one helper for each style in which a routine meets a failure, so
+// Failures. One value type, and one function for each style in which a routine meets a failure, so
 // that a reader sees at once which style a routine has:
 //
 //   Quiet      Attempt(...)            the step is dropped where it stands, the next one runs

@@ -1,8 +1,8 @@
 // The words of the interface: one table of texts, each with a number. No other place holds one of
 // them, so that another language is another table.
 //
-// The numbers below 2000 are the ones by which the texts have always been known. Those from 2000 on
-// are texts that had none.
+// The numbers below 2000 come in groups: 1200 to 1219 are the tool tips, for example. Those from
+// 2000 on are in no group.
 #pragma once
 
 #include "platform/text.h"

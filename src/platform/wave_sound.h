@@ -22,7 +22,7 @@ inline constexpr int LongestSoundSeconds = 60;
 std::vector<std::int16_t> SamplesOfWave(std::string_view wave);
 
 // A click of a few milliseconds as a WAV image of 170 bytes. It states a wrong size and ends in the
-// middle of a chunk, as it has always done.
+// middle of a chunk.
 std::string BuiltInClick();
 
 }  // namespace vorlane

@@ -74,7 +74,7 @@ int RunWindow(QApplication& app, const Text& commandLine) {
     fades = false;
     program.CloseUnattended();
   });
-  QObject::connect(&app, &QGuiApplication::commitDataRequest, [&] {
+  QObject::connect(&app, &QGuiApplication::commitDataRequest, &window, [&] {
     fades = false;
     program.CloseUnattended();
   });

@@ -51,7 +51,7 @@ struct MenuItem {
   FormColour ItemHotForeColor = 0;
   FormColour ItemHotBackColor = 0;
 
-  // Draws as a line. The name is spelled as it has always been.
+  // Draws as a line.
   bool IsSeparator() const;
 };
 

@@ -442,6 +442,28 @@ TEST(RowClick, ARowThatVanishesAsSoonAsItIsListedDoesNotListForEver) {
   EXPECT_EQ(listings, 2);
 }
 
+// The message box about an unreadable file lets timers run.
+TEST(RowClick, AListingWhileTheTagsAreReadKeepsItsOwnRows) {
+  MemoryWorld on;
+  on.ListFiles({u"a.mp3", u"b.mp3"});
+  on.World.SelectSteps({u"x<FILENAME>"});
+  on.World.ShowBox(1, u"typed", u"<NAMEONLY>");
+  on.World.State.DoAll = false;
+  on.World.State.SelectRow(2);
+  on.Disk.BeforeCall = [&](const CallInfo& call) {
+    if (call.Path == u"/R/b.mp3" && call.Method.starts_with(u"Open")) {
+      on.Disk.BeforeCall = nullptr;
+      on.Disk.Write(u"/R/aa.txt");
+      on.World.List.PathChangedEvent();
+      on.World.State.Boxes[0].Content = u"of the new list";
+    }
+  };
+  on.World.List.lstFileListItemClick();
+  EXPECT_EQ(on.World.Names(), (Names{u"a.mp3", u"aa.txt", u"b.mp3"}));
+  EXPECT_EQ(on.World.State.Rows.At(2).ID3v1, YesNo::Unknown);
+  EXPECT_EQ(on.World.State.Boxes[0].Content, u"of the new list");
+}
+
 TEST(RowClick, AFailureIsReportedAndTypedTextForgotten) {
   MemoryWorld on;
   on.ListFiles({u"a"});
