@@ -7,9 +7,7 @@
 namespace vorlane {
 
 void BatchRun::cmdGo_Click(JournalStart start) {
-  const bool busy = form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle ||
-                    form_.Jobs.ListingState != JobState::Idle;
-  if (form_.Rows.Count() == 0 || busy) {
+  if (form_.Rows.Count() == 0 || form_.RunOrListingIsAtWork()) {
     return;
   }
   const JournalInUse inUse(form_);

@@ -31,8 +31,7 @@ TextView ParentOf(TextView path, PathStyle style) {
 }  // namespace
 
 void UndoRun::cmdUndo_Click() {
-  if (form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle ||
-      form_.Jobs.ListingState != JobState::Idle) {
+  if (form_.RunOrListingIsAtWork()) {
     return;
   }
   const JournalInUse inUse(form_);

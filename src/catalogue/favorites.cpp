@@ -10,10 +10,6 @@ constexpr std::uint32_t FavoriteColor = 0x646400;  // red 0, green 100, blue 100
 
 }  // namespace
 
-bool Favorites::RunIsAtWork() const {
-  return form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle;
-}
-
 // An empty slot has no folder that could have gone.
 bool Favorites::IsGone(TextView folder) const {
   return !folder.empty() && !FolderExists(files_, folder);
@@ -26,7 +22,7 @@ void Favorites::AddHeading(int textNumber) {
 
 void Favorites::ShowMenu(FavoritesAskedBy asked) {
   // The click's end would close the menu. By the keyboard there is none to wait for.
-  if (RunIsAtWork() || (asked == FavoritesAskedBy::Mouse && !menu_.AwaitRelease())) {
+  if (form_.RunIsAtWork() || (asked == FavoritesAskedBy::Mouse && !menu_.AwaitRelease())) {
     return;
   }
   AddHeading(TextNumber::Favorites);
@@ -49,7 +45,7 @@ void Favorites::ShowMenu(FavoritesAskedBy asked) {
 }
 
 void Favorites::ItemClicked(TextView caption, TextView key) {
-  if (RunIsAtWork()) {
+  if (form_.RunIsAtWork()) {
     return;
   }
   if (key == FavoriteKey::Add) {

@@ -73,7 +73,6 @@ class Favorites {
   void ItemClicked(TextView caption, TextView key);
 
  private:
-  bool RunIsAtWork() const;
   bool IsGone(TextView folder) const;
   void AddHeading(int textNumber);
   void Add();

@@ -2,11 +2,6 @@
 
 namespace vorlane {
 
-bool ListEvents::IsListBusy() const {
-  return form_.Jobs.ListingState != JobState::Idle || form_.Jobs.BatchState != JobState::Idle ||
-         form_.JournalInUse;
-}
-
 void ListEvents::lstFileList_ColumnClick(Column column) {
   if (!form_.IsIdle()) {
     return;
@@ -25,13 +20,13 @@ void ListEvents::lstFileList_ItemClick() {
 }
 
 void ListEvents::lblFileStatus_DblClick() {
-  if (!IsListBusy()) {
+  if (!form_.RunOrListingIsAtWork()) {
     preview_.UpdateFilePreviewAll(true, 0);
   }
 }
 
 void ListEvents::cmdDoAllOrOne_Click() {
-  if (IsListBusy()) {
+  if (form_.RunOrListingIsAtWork()) {
     return;
   }
   form_.DoAll = !form_.DoAll;
@@ -40,7 +35,7 @@ void ListEvents::cmdDoAllOrOne_Click() {
 }
 
 void ListEvents::cmdListFilesOrFolders_Click() {
-  if (IsListBusy()) {
+  if (form_.RunOrListingIsAtWork()) {
     return;
   }
   form_.ListFolders = !form_.ListFolders;
@@ -49,7 +44,7 @@ void ListEvents::cmdListFilesOrFolders_Click() {
 }
 
 void ListEvents::cmdSubFoldersOrNot_Click() {
-  if (IsListBusy()) {
+  if (form_.RunOrListingIsAtWork()) {
     return;
   }
   form_.IncludeSubFolders = !form_.IncludeSubFolders;

@@ -29,9 +29,6 @@ class ListEvents {
   void cmdSubFoldersOrNot_Click();
 
  private:
-  // A listing, a run or an undo is at work. A preview isn't in the way: a listing ends it.
-  bool IsListBusy() const;
-
   Form& form_;
   Services& services_;
   FileList& list_;

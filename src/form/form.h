@@ -78,6 +78,9 @@ class Form final : public StatusLine {
   bool JournalInUse = false;  // a run or an undo is at work, its waits before and behind included
   // No job is at work, so that a handler may begin one.
   bool IsIdle() const { return Jobs.AllIdle() && !JournalInUse; }
+  bool RunIsAtWork() const { return JournalInUse || Jobs.BatchState != JobState::Idle; }
+  // Nothing else may begin then. A preview isn't in the way: a listing ends it.
+  bool RunOrListingIsAtWork() const { return RunIsAtWork() || Jobs.ListingState != JobState::Idle; }
 
   // Status lines.
   Text Status;          // lblStatus

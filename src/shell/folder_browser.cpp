@@ -12,10 +12,6 @@ Text RootFolder(PathStyle style) {
 
 }  // namespace
 
-bool FolderBrowser::RunIsAtWork() const {
-  return form_.JournalInUse || form_.Jobs.BatchState != JobState::Idle;
-}
-
 void FolderBrowser::ShowFolderBrowser(TextView folder) {
   form_.CurrentPath = EnsureTrailingSeparator(folder, form_.Paths);
   SelectBrowserFolder(form_.CurrentPath);
@@ -31,7 +27,7 @@ void FolderBrowser::SelectionChanged(TextView path) {
   if (path.empty()) {
     return;
   }
-  if (RunIsAtWork()) {
+  if (form_.RunIsAtWork()) {
     tree_.ShowFolder(form_.CurrentPath);
     return;
   }
@@ -53,7 +49,7 @@ void FolderBrowser::SelectionChanged(TextView path) {
 }
 
 void FolderBrowser::FolderDropped(const std::vector<Text>& paths) {
-  if (paths.size() != 1 || RunIsAtWork() || !FolderExists(services_.Files, paths.front())) {
+  if (paths.size() != 1 || form_.RunIsAtWork() || !FolderExists(services_.Files, paths.front())) {
     return;
   }
   form_.CurrentPath = EnsureTrailingSeparator(paths.front(), form_.Paths);

@@ -41,8 +41,6 @@ class FolderBrowser {
   void FolderDropped(const std::vector<Text>& paths);
 
  private:
-  bool RunIsAtWork() const;
-
   Form& form_;
   Services& services_;
   FileList& list_;
