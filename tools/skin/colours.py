@@ -15,8 +15,8 @@ LEAST_CONTRAST = 4.5
 # edge to the plate under the title. A drawing on it is a field of numbers, and since the ramp is
 # finer than the steps of a colour, a palette of 256 shows every gradient without bands.
 RAMP_STOPS = ((0, (21, 30, 41)), (64, (30, 42, 56)), (128, (43, 58, 75)), (170, (58, 75, 94)),
-              (210, (82, 97, 114)), (254, (118, 118, 118)))
-PLATE = 254
+              (210, (52, 98, 132)), (254, (47, 123, 176)))
+PLATE = 254  # its colour carries black and white texts alike
 SEE_THROUGH = 255
 
 

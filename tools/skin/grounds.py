@@ -12,9 +12,9 @@ BACKGROUND_SIZE = (1024, 522)
 TOP_BAR = (255, 13, 717, 49)  # left, top, width, height in the window
 BOTTOM_BAR = (12, 363, 949, 130)
 
-# The plate reaches to the corner of the window: the title above it doesn't move when the window is
-# stretched, but the plate does.
-PLATE_EDGE, PLATE_BOTTOM = 247, 42
+# The plate is a tab that hangs in the corner of the window: the title above it doesn't move when the
+# window is stretched, but the plate does.
+TAB = (-40, -40, 241, 42)
 
 
 def smooth(start, end, value):
@@ -26,9 +26,8 @@ def smooth(start, end, value):
 def background_level(x, y):
     """The background at a place, as a number on the ramp."""
     base = 84 - 40 * smooth(0, 522, y)
-    down = 1 - 0.55 * smooth(PLATE_BOTTOM, 70, y) - 0.45 * smooth(60, 330, y)
-    across = 1 - smooth(PLATE_EDGE - 1, PLATE_EDGE + 1, x + 0.5)
-    return base + (PLATE - base) * across * down
+    base *= 1 - 0.4 * soft_box(x, y, TAB, 14, 5)
+    return base + (PLATE - base) * rounded_box(x, y, TAB, 14)
 
 
 def distance(x, y, box, radius):
