@@ -32,6 +32,11 @@ QString NameOf(const FormControlPlace& control) {
                            : NameInGroup(name.c_str(), control.Index);
 }
 
+// To the toolkit a maximized window that has been minimized is still maximized.
+bool ShowsMaximized(const QWidget& window) {
+  return window.isMaximized() && !window.isMinimized();
+}
+
 }  // namespace
 
 FrmMain::FrmMain(const EasyButtonServices& services)
@@ -61,6 +66,7 @@ FrmMain::FrmMain(const EasyButtonServices& services)
   for (QWidget* bar : {controls_.TopBar, controls_.BottomBar}) {
     bar->setMouseTracking(true);
   }
+  controls_.Title->setMouseTracking(true);
   grip_.OnPointerReset = [this] {
     if (OnPointerReset) {
       OnPointerReset();
@@ -174,7 +180,7 @@ void FrmMain::paintEvent(QPaintEvent* event) {
 
 void FrmMain::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (isMaximized() && OnMaximized) {
+  if (ShowsMaximized(*this) && OnMaximized) {
     OnMaximized();
   }
   TakeWindowState();
@@ -182,7 +188,7 @@ void FrmMain::resizeEvent(QResizeEvent* event) {
 
 // The size and the state of the window may come in either order.
 void FrmMain::TakeWindowState() {
-  if (isMaximized()) {
+  if (ShowsMaximized(*this)) {
     pendingRestore_ = true;
     grip_.Disarm();
   }
@@ -198,7 +204,7 @@ void FrmMain::TakeWindowState() {
 void FrmMain::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) {
-    if (isMaximized() && OnMaximized) {
+    if (ShowsMaximized(*this) && OnMaximized) {
       OnMaximized();
     }
     TakeWindowState();
@@ -282,12 +288,14 @@ bool FrmMain::TakeBarEvent(const QWidget& bar, const QEvent& event) {
 }
 
 void FrmMain::TakeTitleEvent(const QEvent& event) {
-  if (event.type() == QEvent::Enter) {
+  const auto isInside = [&] {
+    return controls_.Title->rect().contains(static_cast<const QMouseEvent&>(event).pos());
+  };
+  // A key may have darkened it under the mouse, which lights it again as soon as it moves.
+  if (event.type() == QEvent::Enter || (event.type() == QEvent::MouseMove && isInside())) {
     ShowMouseOnTitle(true);
-  } else if (event.type() == QEvent::MouseButtonRelease) {
-    const auto& mouse = static_cast<const QMouseEvent&>(event);
-    if (mouse.button() == Qt::LeftButton && controls_.Title->rect().contains(mouse.pos()) &&
-        OnTitleClicked) {
+  } else if (event.type() == QEvent::MouseButtonRelease && isInside()) {
+    if (static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton && OnTitleClicked) {
       OnTitleClicked();
     }
   }

@@ -1,11 +1,14 @@
 """Whole visits: from the start over renaming to the end, and what is kept between them."""
+import os
 import pathlib
 import signal
 import subprocess
 import time
 
-from window_world import (BIN, BOX_1, DO_ONE, EXIT, FORM, GO, PATIENCE, SECOND_OPERATION, UNDO,
-                          WILDCARD, WindowCase, wait_for)
+from window_world import (BIN, BOX_1, DO_ONE, EXIT, FORM, GO, PATIENCE, SECOND_OPERATION,
+                          TITLE_LABEL, UNDO, WILDCARD, WindowCase, wait_for)
+
+VENDOR_ADDRESS = "https://www.vorlane.example/"
 
 
 class WindowTest(WindowCase):
@@ -201,6 +204,18 @@ class WindowTest(WindowCase):
         self.assertIsNone(self.process.poll())
         self.assertEqual(self.ended(), 0)
         self.assertGreater(time.monotonic() - begin, 0.7)
+
+    def test_a_click_on_the_title_opens_the_vendors_page(self):
+        browser = self.work / "bin/xdg-open"
+        browser.parent.mkdir()
+        opened = self.work / "opened"
+        browser.write_text(f'#!/bin/sh\nprintf "%s|" "$@" >>"{opened}"\n')
+        browser.chmod(0o755)
+        self.start(self.files, PATH=f"{browser.parent}:{os.environ['PATH']}")
+        self.click(TITLE_LABEL)
+        wait_for(opened.exists, "the browser")
+        self.close()
+        self.assertEqual(opened.read_text(), VENDOR_ADDRESS + "|")
 
     def test_what_is_no_folder_is_no_start_folder(self):
         self.start(self.files)

@@ -29,6 +29,7 @@ UNDO = (985, 209)
 EXIT = (982, 70)
 HELP = (985, 137)
 DO_ONE = (502, 30)
+TITLE_LABEL = (80, 22)
 BOX_1 = (300, 410)
 WILDCARD = (715, 28)
 SECOND_OPERATION = (120, 396)
@@ -40,8 +41,6 @@ BARE = (985, 320)  # no control there
 
 def wait_for(condition, what):
     end = time.monotonic() + PATIENCE
-
-
     while time.monotonic() < end:
         result = condition()
         if result:
@@ -53,7 +52,7 @@ def wait_for(condition, what):
 class Display:
     """A virtual display with a window manager."""
 
-    def __init__(self, size="1400x1050"):
+    def __init__(self, size):
         self.pixels = pathlib.Path(tempfile.mkdtemp(prefix="vorlane-screen-"))
         read, write = os.pipe()
         self.server = subprocess.Popen(
@@ -103,9 +102,12 @@ class WindowCase(unittest.TestCase):
         (self.program_folder / "KeywordList.ini").write_bytes(KEYWORDS.encode())
         self.home = self.work / "home"
         self.home.mkdir()
-        self.display = Display()
-        self.addCleanup(self.display.close)
+        self.show_on("1400x1050")
         self.process = None
+
+    def show_on(self, screen):
+        self.display = Display(screen)
+        self.addCleanup(self.display.close)
 
     def environment(self, **more):
         environment = {key: value for key, value in self.display.environment().items()
@@ -151,7 +153,7 @@ class WindowCase(unittest.TestCase):
         """The main window, or a message box, which has the same title."""
         found = self.display.run("xdotool", "search", "--onlyvisible", "--name", TITLE).stdout.split()
         return next((window for window in found
-                     if (self.geometry(window)[2] > 900) == is_main), None)
+                     if (self.geometry(window)[2] > 700) == is_main), None)
 
     @staticmethod
     def kill(process):

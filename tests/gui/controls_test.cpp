@@ -32,6 +32,27 @@ TEST(Controls, StandWhereTheyWereDesigned) {
   }
 }
 
+TEST(Controls, StayWhereTheyAreInAMinimizedWindow) {
+  WindowWorld world;
+  QWidget& window = world.Main.Window();
+  const auto& go = world.Find<QWidget>("cmdGo");
+  const auto& list = world.Find<QWidget>("lstFileList");
+  const QPoint corner = go.pos();
+  const QPoint listCorner = list.geometry().bottomRight();
+  window.showMinimized();
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(window.isMinimized());
+  window.resize(1124, 622);
+  QResizeEvent resized(window.size(), {1024, 522});
+  QCoreApplication::sendEvent(&window, &resized);
+  EXPECT_EQ(go.pos(), corner);
+  EXPECT_EQ(list.geometry().bottomRight(), listCorner);
+  window.showNormal();
+  ASSERT_TRUE(WindowWorld::WaitFor([&] { return window.size() == QSize(1124, 622); }));
+  EXPECT_EQ(go.pos(), corner + QPoint(0, 100));
+  EXPECT_EQ(list.geometry().bottomRight(), listCorner + QPoint(100, 100));
+}
+
 TEST(Controls, FollowTheWindowsSize) {
   WindowWorld world;
   QWidget& window = world.Main.Window();

@@ -86,6 +86,65 @@ TEST(EasyButtonPointer, ReleasedOutsidePaintsNothingUntilTheNextTick) {
   EXPECT_EQ(world.Clicks, 0);
 }
 
+TEST(EasyButtonPointer, WithoutAPictureAReleaseOutsideShowsTheRaisedFrameAtOnce) {
+  ButtonWorld world;
+  world.PointAt(Middle);
+  world.Press(Middle);
+  ASSERT_TRUE(world.BecomesPlain(DarkShadow()));
+  world.Timer().setInterval(100'000);
+  world.PointAt(OutsidePlace);
+  world.Release(OutsidePlace);
+  EXPECT_EQ(world.ColourAt({0, 0}), Light());
+  world.Timer().setInterval(1);
+  EXPECT_TRUE(world.BecomesPlain(NormalFrame));
+  EXPECT_FALSE(world.IsTicking());
+  EXPECT_EQ(world.Clicks, 0);
+}
+
+TEST(EasyButtonPointer, HeldOverAPlaceThatIsntSolidItShowsHoverAndTheReleaseIsNoClick) {
+  PicturedButton world;
+  world.Button.SetUseSound(UsedSound::BuiltInClick);
+  world.PointAt(SolidPlace);
+  world.Press(SolidPlace);
+  ASSERT_TRUE(world.Becomes(PressedColour));
+  world.PointAt(GreyPlace);
+  EXPECT_TRUE(world.Becomes(HoverColour));
+  world.Timer().setInterval(100'000);
+  world.Release(GreyPlace);
+  EXPECT_EQ(world.ColourAt(SolidPlace), HoverColour);
+  world.Timer().setInterval(1);
+  EXPECT_TRUE(world.Becomes(NormalColour));
+  EXPECT_FALSE(world.IsTicking());
+  EXPECT_EQ(world.Clicks, 0);
+  EXPECT_TRUE(world.Sounds.Played.empty());
+}
+
+TEST(EasyButtonPointer, AReleaseOverAPlaceThatIsntSolidPaintsNothing) {
+  PicturedButton world;
+  world.PointAt(SolidPlace);
+  world.Press(SolidPlace);
+  ASSERT_TRUE(world.Becomes(PressedColour));
+  world.Timer().setInterval(100'000);
+  world.PointAt(GreyPlace);
+  world.Release(GreyPlace);
+  EXPECT_EQ(world.ColourAt(SolidPlace), PressedColour);
+  EXPECT_EQ(world.Clicks, 0);
+}
+
+// A move starts the timer only if that stands still.
+TEST(EasyButtonPointer, AMouseThatNeverRestsHoldsUpNoTick) {
+  PicturedButton world;
+  world.Timer().setInterval(60);
+  QTimer moving;
+  bool isLeft = false;
+  QObject::connect(&moving, &QTimer::timeout, &moving, [&] {
+    isLeft = !isLeft;
+    world.PointAt(SolidPlace - QPoint(isLeft ? 1 : 0, 0));
+  });
+  moving.start(5);
+  EXPECT_TRUE(world.Becomes(HoverColour));
+}
+
 TEST(EasyButtonPointer, DownToHoverByATickAfterAnotherButtonsRelease) {
   PicturedButton world;
   world.PointAt(SolidPlace);
@@ -233,12 +292,17 @@ TEST(EasyButtonPointer, ThePointersArgumentsHaveButtonsShiftAndPlace) {
 
 TEST(EasyButtonPointer, ASecondFastClickIsADoubleClick) {
   PicturedButton world;
-  int doubleClicks = 0;
-  world.Button.OnDblClick = [&doubleClicks] { ++doubleClicks; };
+  QStringList events;
+  const auto note = [&events](const char* name) {
+    return [&events, name](auto&&...) { events << QLatin1String(name); };
+  };
+  world.Button.OnMouseDown = note("down");
+  world.Button.OnMouseUp = note("up");
+  world.Button.OnClick = note("click");
+  world.Button.OnDblClick = note("dblclick");
   world.PointAt(SolidPlace);
   world.DoubleClick(SolidPlace);
-  EXPECT_EQ(doubleClicks, 1);
-  EXPECT_EQ(world.Clicks, 1);
+  EXPECT_EQ(events, QStringList({"down", "up", "click", "dblclick", "up"}));
 }
 
 TEST(EasyButtonPointer, FastClicksOnTwoPartnersAtOnePlaceCountAsOneEach) {

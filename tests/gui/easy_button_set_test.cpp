@@ -78,6 +78,47 @@ TEST(EasyButtonSet, AtRestASetShowsAtOnceAndIsTold) {
   }
 }
 
+struct StoredSet {
+  const char* Name;
+  std::function<void(EasyButton&)> Do;
+  std::function<bool(const EasyButton&)> IsStored;
+};
+
+std::vector<StoredSet> SetsOfTheLook() {
+  return {{"Align", [](EasyButton& button) { button.SetAlign(3); },
+           [](const EasyButton& button) { return button.Align() == 3; }},
+          {"BackColor", [](EasyButton& button) { button.SetBackColor(0xFF00); },
+           [](const EasyButton& button) { return button.BackColor() == 0xFF00; }},
+          {"Caption", [](EasyButton& button) { button.SetCaption(QStringLiteral("Y")); },
+           [](const EasyButton& button) { return button.Caption() == QStringLiteral("Y"); }},
+          {"Enabled", [](EasyButton& button) { button.SetEnabled(false); },
+           [](const EasyButton& button) { return !button.Enabled(); }},
+          {"Font", [](EasyButton& button) { button.SetFont(QFont(QStringLiteral("Serif"), 19)); },
+           [](const EasyButton& button) { return button.Font().pointSize() == 19; }},
+          {"ForeColor", [](EasyButton& button) { button.SetForeColor(0xFF); },
+           [](const EasyButton& button) { return button.ForeColor() == 0xFF; }},
+          {"Picture", [](EasyButton& button) { button.SetPicture(FourStrips()); },
+           [](const EasyButton& button) { return button.Picture() == FourStrips(); }}};
+}
+
+TEST(EasyButtonSet, AValueIsThereWhenItIsToldAndShowsAfterwards) {
+  for (const StoredSet& set : SetsOfTheLook()) {
+    ButtonWorld world;
+    world.Button.SetCaption(QStringLiteral("X"));
+    const QImage before = world.Look();
+    bool wasStored = false;
+    QImage then;
+    world.Button.OnPropertyChanged = [&](const QString&) {
+      wasStored = set.IsStored(world.Button);
+      then = world.Look();
+    };
+    set.Do(world.Button);
+    EXPECT_TRUE(wasStored) << set.Name;
+    EXPECT_EQ(then, before) << set.Name;
+    EXPECT_NE(world.Look(), before) << set.Name;
+  }
+}
+
 // A release doesn't paint what is shown already: what a set has cleared stays clear.
 TEST(EasyButtonSet, AReleaseBeforeTheNextTickPaintsNothing) {
   ButtonWorld world;

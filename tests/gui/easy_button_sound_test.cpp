@@ -50,6 +50,14 @@ TEST(EasyButtonSound, WithoutSoundTheClickStays) {
   EXPECT_TRUE(world.Sounds.Played.empty());
 }
 
+TEST(EasyButtonSound, WithoutSoundTheAccessKeyStillClicks) {
+  SoundWorld world;
+  world.Button.GetBytes();
+  world.Button.Fire();
+  EXPECT_EQ(world.Clicks, 1);
+  EXPECT_TRUE(world.Sounds.Played.empty());
+}
+
 TEST(EasyButtonSound, AFileTakesTheClicksPlace) {
   SoundWorld world;
   world.Button.GetBytes();
@@ -269,10 +277,25 @@ TEST(EasyButtonProperties, AStoredSoundFile) {
   EXPECT_TRUE(missing.Prompts.Boxes.empty());
 }
 
+TEST(EasyButtonProperties, AStoredSoundThatIsNoneIsSilence) {
+  for (const int stored : {3, -1}) {
+    SoundWorld world;
+    PropertyBag bag({{QStringLiteral("UseSound"), stored}});
+    world.Button.ReadProperties(bag);
+    EXPECT_TRUE(world.Button.SoundBytes().empty()) << stored;
+    world.ClickIt();
+    EXPECT_EQ(world.Clicks, 1) << stored;
+    for (const std::string& played : world.Sounds.Played) {
+      EXPECT_EQ(played, "") << stored;
+    }
+  }
+}
+
 TEST(EasyButtonProperties, PointerShapes) {
   ButtonWorld world;
   constexpr std::pair<int, Qt::CursorShape> shapes[] = {
       {1, Qt::ArrowCursor},      {2, Qt::CrossCursor},     {3, Qt::IBeamCursor},
+      {4, Qt::ArrowCursor},      {10, Qt::UpArrowCursor},  {14, Qt::WhatsThisCursor},
       {5, Qt::SizeAllCursor},    {6, Qt::SizeBDiagCursor}, {7, Qt::SizeVerCursor},
       {8, Qt::SizeFDiagCursor},  {9, Qt::SizeHorCursor},   {11, Qt::WaitCursor},
       {12, Qt::ForbiddenCursor}, {13, Qt::BusyCursor},     {15, Qt::SizeAllCursor}};

@@ -169,6 +169,27 @@ TEST_F(FavoritesPopupTest, ByTheKeyboardItOpensOverTheFocusedControl) {
   EXPECT_EQ(Popup(), nullptr);
 }
 
+TEST_F(FavoritesPopupTest, ByTheMouseItOpensAtThePointerAlsoAfterTheKey) {
+  World.Find<QWidget>("tvwFolders").setFocus();
+  QPoint byKey;
+  QPoint byMouse;
+  WithMenus({[&](QWidget& menu) {
+               byKey = menu.pos();
+               QTest::keyClick(&menu, Qt::Key_Escape);
+             },
+             Release,
+             [&](QWidget& menu) {
+               byMouse = menu.pos();
+               QTest::keyClick(&menu, Qt::Key_Escape);
+             }});
+  MenuKey();
+  QCursor::setPos(700, 400);
+  ASSERT_NE(byKey, QCursor::pos());
+  RightPress();
+  EXPECT_TRUE(AllDone());
+  EXPECT_EQ(byMouse, QPoint(700, 400));
+}
+
 TEST_F(FavoritesPopupTest, ATextBoxOpensNoMenuOfItsOwnByTheKey) {
   auto& box = *World.Find<QComboBox>("cboWildCard").lineEdit();
   box.setFocus();

@@ -211,6 +211,16 @@ TEST_F(GripTest, AClickInTheStripTakesTheEdgeToTheMouse) {
   EXPECT_EQ(Window.size(), QSize(1015, 522));
 }
 
+// The release asks which strip the mouse was on and not which button it is.
+TEST_F(GripTest, AnyButtonsClickInTheStripTakesTheEdgeToTheMouse) {
+  Move(1015, 300);
+  Press(1015, 300, Qt::MiddleButton);
+  EXPECT_EQ(Window.size(), QSize(1024, 522));
+  Release(1015, 300, Qt::MiddleButton);
+  EXPECT_EQ(Window.size(), QSize(1015, 522));
+  EXPECT_EQ(RightPresses, 0);
+}
+
 TEST_F(GripTest, ADragBackToWhereItBeganLaysNothingOut) {
   const auto before = Places();
   Window.Controls().Go->move(1, 2);  // a layout would take it back

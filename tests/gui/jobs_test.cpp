@@ -207,6 +207,41 @@ TEST_F(JobsTest, MaximizingDoesSoAlsoIfTheSizeComesBeforeTheState) {
   EXPECT_TRUE(WindowWorld::WaitFor([&] { return preview.isActive(); }));
 }
 
+// Whichever event tells of the state.
+TEST_F(JobsTest, MinimizingAMaximizedWindowLooksAtNothing) {
+  FrmMain& window = World.Main.Window();
+  QTimer& preview = World.Main.Timers().tmrAutoPreview;
+  preview.setInterval(100'000);
+  window.showMaximized();
+  ASSERT_TRUE(WindowWorld::WaitFor([&] { return window.width() > 1300 && preview.isActive(); }));
+  QCoreApplication::processEvents();
+  preview.stop();
+  window.showMinimized();
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(window.isMinimized() && window.isMaximized());
+  EXPECT_FALSE(preview.isActive());
+  QResizeEvent resized(window.size(), window.size());
+  QCoreApplication::sendEvent(&window, &resized);
+  EXPECT_FALSE(preview.isActive());
+  window.showMaximized();
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return preview.isActive(); }));
+}
+
+TEST_F(JobsTest, AWindowThatNobodySawMaximizedIsntRestored) {
+  FrmMain& window = World.Main.Window();
+  int restored = 0;
+  window.OnRestored = [&restored] { ++restored; };
+  window.setWindowState(Qt::WindowMinimized | Qt::WindowMaximized);
+  QCoreApplication::processEvents();
+  window.setWindowState(Qt::WindowNoState);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(restored, 0);
+  window.showMaximized();
+  QCoreApplication::processEvents();
+  window.showNormal();
+  EXPECT_TRUE(WindowWorld::WaitFor([&] { return restored == 1; }));
+}
+
 TEST_F(JobsTest, StopEndsAPreview) {
   QTimer::singleShot(0, [&] { World.Main.State().Jobs.RequestStop(); });
   QTest::mouseDClick(&World.Find<QLabel>("lblFileStatus"), Qt::LeftButton);

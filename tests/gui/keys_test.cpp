@@ -1,5 +1,5 @@
 // The keys of the whole window, and the folder tree under keys and mouse.
-#include "gui/window_world.h"
+#include "gui/skin_world.h"
 
 namespace vorlane {
 namespace {
@@ -41,6 +41,20 @@ TEST_F(KeysTest, CtrlZInTheWildcardTakesTheTypingBack) {
 TEST_F(KeysTest, CtrlQCloses) {
   QTest::keyClick(&World.Main.Window(), Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(World.Main.Window().isVisible());
+}
+
+TEST_F(KeysTest, EscapeDarkensTheTitle) {
+  FrmMain& window = World.Main.Window();
+  World.Folder.Write("Skin/Background.gif", BytesOf(Plain(1024, 522)).toStdString());
+  Skin(window, World.Files, World.Folder.TextPath()).ApplySkinPictures();
+  const auto colour = [&window] {
+    return window.Controls().Title->palette().color(QPalette::WindowText);
+  };
+  QTest::mouseMove(window.windowHandle(), {8, 300});
+  QTest::mouseMove(window.windowHandle(), {70, 18});
+  ASSERT_EQ(colour(), Qt::white);
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_EQ(colour(), QApplication::palette().color(QPalette::WindowText));
 }
 
 TEST_F(KeysTest, WithoutBoxesTabGoesOn) {

@@ -319,6 +319,19 @@ TEST_F(MainWindowLoadTest, BackFromMaximizedItTakesTheStoredPlaceIfItWasStoredMa
   EXPECT_TRUE(WindowWorld::WaitFor([&] { return window.size() == QSize(1100, 600); }));
 }
 
+TEST_F(MainWindowLoadTest, TheStoredPlaceIsTakenOnceOnTheWayBack) {
+  Store(u"Width", u"18000");
+  Store(u"Height", u"9000");
+  Store(u"Maximized", u"1");
+  FrmMain& window = Load().Main.Window();
+  window.showNormal();
+  ASSERT_TRUE(WindowWorld::WaitFor([&] { return window.size() == QSize(1200, 600); }));
+  QCoreApplication::processEvents();
+  window.resize(1100, 600);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window.size(), QSize(1100, 600));
+}
+
 // The least size is that of the whole design, in the compact window too.
 TEST_F(MainWindowLoadTest, TheLeastSizeDoesNotShrinkWithTheWindow) {
   Store(u"Resolution", u"800x600");

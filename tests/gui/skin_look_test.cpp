@@ -73,6 +73,22 @@ TEST_F(SkinLookTest, ABackgroundThatGoesOrBreaksStays) {
   EXPECT_EQ(At(8, 700), Window.palette().color(QPalette::Window));
 }
 
+TEST_F(SkinLookTest, ABrokenBackgroundKeepsNothingElseFromMoving) {
+  Write(u"Background.gif", Plain(100, 100, Qt::red));
+  LoadUnscaled();
+  const auto placeOf = [this](const char* control) { return Find<QWidget>(control).geometry(); };
+  const QRect go = placeOf("cmdGo");
+  const QRect wildcard = placeOf("cboWildCard");
+  const QRect tree = placeOf("picBrowse");
+  const QRect list = placeOf("lstFileList");
+  Write(u"Background.gif", QByteArray("broken"));
+  Window.resize(1124, 622);
+  EXPECT_EQ(placeOf("cmdGo"), go.translated(0, 100));
+  EXPECT_EQ(placeOf("cboWildCard"), wildcard.translated(100, 0));
+  EXPECT_EQ(placeOf("picBrowse").height(), tree.height() + 100);
+  EXPECT_EQ(placeOf("lstFileList").bottomRight(), list.bottomRight() + QPoint(100, 100));
+}
+
 TEST_F(SkinLookTest, ABackgroundMayComeLater) {
   LoadUnscaled();
   Write(u"Background.gif", Plain(100, 100, Qt::black));
@@ -174,6 +190,17 @@ TEST_F(SkinLookTest, TheTitleIsWhiteUnderTheMouseUntilThatMovesOverTheForm) {
   EXPECT_EQ(TextOf("lblTitle"), Qt::white);
   QTest::mouseMove(Window.windowHandle(), Free);
   EXPECT_EQ(TextOf("lblTitle"), DesktopText());
+}
+
+TEST_F(SkinLookTest, ATitleThatWasDarkenedUnderTheMouseIsLitByItsNextMove) {
+  Write(u"Background.gif", Plain(1024, 522, Qt::gray));
+  LoadUnscaled();
+  QTest::mouseMove(Window.windowHandle(), Free);
+  QTest::mouseMove(Window.windowHandle(), {70, 18});
+  Window.ShowMouseOnTitle(false);
+  EXPECT_EQ(TextOf("lblTitle"), DesktopText());
+  QTest::mouseMove(Window.windowHandle(), {72, 18});
+  EXPECT_EQ(TextOf("lblTitle"), Qt::white);
 }
 
 TEST_F(SkinLookTest, WithoutASkinTheTitleKeepsItsColour) {

@@ -1,8 +1,10 @@
 // Which file goes to which control in both passes, and what a file that is missing or can't be
 // loaded costs.
+#include <algorithm>
 #include <filesystem>
 
 #include "gui/skin_world.h"
+#include "support/memory_file_system.h"
 
 namespace vorlane {
 namespace {
@@ -195,6 +197,20 @@ TEST_F(SkinTest, ADamagedFirstFileLeavesTheUnscaledPassNothing) {
   EXPECT_TRUE(Shown().empty());
 }
 
+TEST_F(SkinTest, ADamagedFirstFileCostsTheScaledPassNothingElse) {
+  for (const Damage& damage : Damages()) {
+    SCOPED_TRACE(damage.What);
+    SkinWorld world;
+    world.WriteAll();
+    world.Write(u"Background.gif", damage.Bytes);
+    world.Take().ApplySkinScaled(990, 990);
+    auto expected = AllFiles();
+    std::erase(expected, u"Background.gif");
+    EXPECT_EQ(world.Shown(), expected);
+    EXPECT_EQ(world.Window.size(), QSize(724, 492));
+  }
+}
+
 TEST_F(SkinTest, ADamagedBarIsScaledWithoutItsPicture) {
   Write(u"TopBar.gif", QByteArray("GIF89a"));
   Take().ApplySkinScaled(990, 990);
@@ -274,6 +290,27 @@ TEST_F(SkinTest, GoHasASoundOfItsOwn) {
     const auto& button = Find<EasyButton>(sound.Control);
     EXPECT_EQ(button.SoundBytes(), sound.Control == "cmdGo" ? "one" : "two") << sound.Control;
     EXPECT_EQ(button.SoundFileName(), Folder.TextPath() + u"Sounds/" + Text(sound.FileName));
+  }
+}
+
+// Ten buttons share one of the two.
+TEST_F(SkinTest, EachSoundIsLookedForOnce) {
+  for (const bool exist : {true, false}) {
+    MemoryFileSystem disk;
+    disk.MakeFolder(u"/program/Sounds");
+    if (exist) {
+      disk.Write(u"/program/Sounds/01.wav", "one");
+      disk.Write(u"/program/Sounds/02.wav", "two");
+    }
+    Skin skin(Window, disk, u"/program/");
+    disk.ForgetCalls();
+    skin.AssignSounds();
+    for (const char16_t* name : {u"01.wav", u"02.wav"}) {
+      EXPECT_EQ(
+          std::ranges::count_if(disk.Calls, [&](const Text& call) { return call.ends_with(name); }),
+          1)
+          << exist;
+    }
   }
 }
 
