@@ -172,7 +172,7 @@ void EasyButton::LoadSound() {
 }
 
 void EasyButton::PlayButtonSound() {
-  if (useSound_ != UsedSound::None) {
+  if (useSound_ > UsedSound::None) {
     services_.Sounds.Play(soundBytes_);
   }
 }

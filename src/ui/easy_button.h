@@ -49,7 +49,8 @@ struct MouseArguments {
   int Y = 0;
 };
 
-enum class UsedSound { None, BuiltInClick, File };
+// Any other stored number is kept too: one above 0 plays what bytes there are.
+enum class UsedSound : int { None, BuiltInClick, File };
 
 class EasyButton : public QWidget {
  public:

@@ -16,10 +16,6 @@ QString DefaultCaption() {
   return QStringLiteral("Command");
 }
 
-UsedSound SoundOf(int number) {
-  return number <= 0 ? UsedSound::None : number == 1 ? UsedSound::BuiltInClick : UsedSound::File;
-}
-
 QVariant OfFont(const QFont& font) {
   return QVariant::fromValue(font);
 }
@@ -50,7 +46,7 @@ void EasyButton::ReadProperties(PropertyStore& store) {
   mouseIcon_ = read("MouseIcon", {}).value<QImage>();
   mousePointer_ = read("MousePointer", 0).toInt();
   accessKey_ = read("AccessKey", QString()).toString();
-  useSound_ = SoundOf(read("UseSound", DefaultSound).toInt());
+  useSound_ = static_cast<UsedSound>(read("UseSound", DefaultSound).toInt());
   soundFileName_ = ToText(read("SoundFileName", QString()).toString());
   TakeStoredSound();
   ShowPointer();

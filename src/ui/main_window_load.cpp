@@ -33,7 +33,7 @@ class WindowAtExit final : public ClosingWindow {
     const Twips stored = StoredColumnWidth(settings_, column);
     return PixelsOf(stored) == pixels ? stored : TwipsOf(pixels);
   }
-  bool IsMaximized() override { return window_.isMaximized(); }
+  bool IsMaximized() override { return window_.isMaximized() && !window_.isMinimized(); }
   NormalPlace Placement() override {
     const TwipsRect place = window_.NormalPlacement();
     NormalPlace result{.Width = place.Width, .Height = place.Height};

@@ -2,6 +2,7 @@
 #include "gui/button_world.h"
 #include "platform/vendor.h"
 #include "platform/wave_sound.h"
+#include "ui/qt_text.h"
 
 namespace vorlane {
 namespace {
@@ -280,8 +281,10 @@ TEST(EasyButtonProperties, AStoredSoundFile) {
 TEST(EasyButtonProperties, AStoredSoundThatIsNoneIsSilence) {
   for (const int stored : {3, -1}) {
     SoundWorld world;
-    PropertyBag bag({{QStringLiteral("UseSound"), stored}});
+    PropertyBag bag({{QStringLiteral("UseSound"), stored},
+                     {QStringLiteral("SoundFileName"), ToQString(SoundFile)}});
     world.Button.ReadProperties(bag);
+    EXPECT_EQ(static_cast<int>(world.Button.UseSound()), stored);
     EXPECT_TRUE(world.Button.SoundBytes().empty()) << stored;
     world.ClickIt();
     EXPECT_EQ(world.Clicks, 1) << stored;

@@ -285,6 +285,15 @@ TEST_F(MainWindowLoadTest, AMinimizedWindowKeepsThePlaceThatItComesBackTo) {
   EXPECT_EQ(Stored(u"Maximized"), u"0");
 }
 
+TEST_F(MainWindowLoadTest, AMaximizedWindowThatIsMinimizedCountsAsMinimized) {
+  Run& run = Load();
+  run.Main.Window().showMaximized();
+  run.Main.Window().showMinimized();
+  ASSERT_TRUE(run.Main.Window().isMaximized() && run.Main.Window().isMinimized());
+  UnloadMainWindow(run.Main, run.Services);
+  EXPECT_EQ(Stored(u"Maximized"), u"0");
+}
+
 TEST_F(MainWindowLoadTest, AReportTellsWhatTheProgramIsDoing) {
   Folder.Write("files/a.txt");
   Run& run = Load();
