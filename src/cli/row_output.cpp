@@ -28,17 +28,13 @@ Json RowJson(const Form& form, std::int32_t row) {
   return json;
 }
 
-JsonListPrinter::JsonListPrinter() {
-  std::cout << '[';
-}
-
 void JsonListPrinter::Add(const Json& element) {
-  std::cout << (first_ ? "\n" : ",\n") << WriteJson(element);
+  std::cout << (first_ ? "[\n" : ",\n") << WriteJson(element);
   first_ = false;
 }
 
 void JsonListPrinter::Finish() {
-  std::cout << (first_ ? "]\n" : "\n]\n");
+  std::cout << (first_ ? "[]\n" : "\n]\n");
 }
 
 }  // namespace vorlane

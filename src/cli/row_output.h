@@ -15,10 +15,10 @@ std::string PrintableName(TextView name);
 // readOnly. A marker stands in "marker", and "proposed" is then empty.
 Json RowJson(const Form& form, std::int32_t row);
 
-// Prints a document that is a list, one element a line.
+// Prints a document that is a list, one element a line. Nothing is printed before the first call: a
+// command that fails before it has anything to tell leaves no half of a document.
 class JsonListPrinter {
  public:
-  JsonListPrinter();
   void Add(const Json& element);
   void Finish();
 
