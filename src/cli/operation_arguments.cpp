@@ -5,6 +5,7 @@
 
 #include "cli/box_argument.h"
 #include "cli/whole_number.h"
+#include "platform/console.h"
 #include "platform/file_name_bytes.h"
 #include "platform/letter_case.h"
 
@@ -213,6 +214,9 @@ std::vector<std::int32_t> OperationArguments::OnlyRows(const FileRows& rows) con
 std::vector<std::int32_t> OperationArguments::PreviewOnly(Session& session) const {
   auto rows = OnlyRows(session.State.Rows);
   for (const std::int32_t row : rows) {
+    if (StopSignalled()) {
+      break;
+    }
     SelectRow(session, row);
     session.Previews.UpdateFilePreviewAll(false, row);
   }

@@ -29,8 +29,8 @@ struct OperationArguments {
   void Prepare(Session& session) const;
 
   // Previews the rows that --only names, one by one as in One mode, and returns them from the top
-  // down: a proposal takes account of those above it. Throws CommandError (NotFound) for a name
-  // that isn't listed.
+  // down: a proposal takes account of those above it. After a stop signal the rows that are
+  // left keep no proposal. Throws CommandError (NotFound) for a name that isn't listed.
   std::vector<std::int32_t> PreviewOnly(Session& session) const;
 
   // Selects the row as a click does, and types the box texts again.
