@@ -1,5 +1,4 @@
 // vorlane-cli eval: evaluates one code text for one entry, or many from JSON lines.
-#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -15,6 +14,7 @@
 #include "engine/process_file_name.h"
 #include "metadata/tag_reading.h"
 #include "platform/file_name_bytes.h"
+#include "platform/user_folders.h"
 
 namespace vorlane {
 
@@ -85,9 +85,7 @@ Text FolderOf(const std::optional<Text>& folder, PathStyle style) {
   if (style != HostPathStyle) {
     return {};
   }
-  std::error_code error;
-  const auto here = std::filesystem::current_path(error);
-  return EnsureTrailingSeparator(TextFromBytes(here.native()), style);
+  return WorkingFolder();
 }
 
 void ShowBox(Question& question, std::size_t box, const Text& content) {
