@@ -53,7 +53,7 @@ Json ImageJson(const clsEXIF& image) {
 }
 
 void PrintPlain(const std::string& file, const clsEXIF& image) {
-  std::cout << file << '\n';
+  std::cout << ForOutput(file) << '\n';
   if (image.ReadStatus() != ExifReadStatus::Read) {
     std::cout << "  " << DisplayUtf8(image.ListInfo()) << '\n';
     return;

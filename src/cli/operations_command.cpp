@@ -51,8 +51,8 @@ ExitStatus ListOperations(const OperationsCommandArguments& arguments) {
       document.push_back(NodeJson(node, code));
     } else {
       const auto indent = 2 * static_cast<std::size_t>(node.Depth - 1);
-      std::cout << node.Index << '\t' << std::string(indent, ' ') << DisplayUtf8(node.Title)
-                << (code.empty() ? ":" : "") << '\n';
+      std::cout << node.Index << '\t' << std::string(indent, ' ')
+                << ForOutput(DisplayUtf8(node.Title)) << (code.empty() ? ":" : "") << '\n';
     }
   }
   if (arguments.AsJson) {

@@ -8,7 +8,8 @@
 
 namespace vorlane {
 
-// Name and folder as bytes on disk, so that what is printed can be used as a name again.
+// Name and folder as bytes on disk, so that what is printed can be used as a name again;
+// on a terminal without control characters.
 std::string PrintableName(TextView name);
 
 // The row as the list shows it: row, folder, name, proposed, marker, artist, title, id3v1, id3v2,

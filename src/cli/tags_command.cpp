@@ -51,7 +51,7 @@ ExitStatus PrintTags(const TagsCommandArguments& arguments) {
     if (arguments.AsJson) {
       std::cout << WriteJson(FileTagsToJson(arguments.Files[i], tags)) << '\n';
     } else {
-      std::cout << arguments.Files[i] << ": " << tags.Kbit << " kbit/s\n";
+      std::cout << ForOutput(arguments.Files[i]) << ": " << tags.Kbit << " kbit/s\n";
       PrintTag("ID3v1", tags.V1);
       PrintTag("ID3v2", tags.V2);
     }

@@ -4,6 +4,7 @@
 
 #include "batch/undo_run.h"
 #include "cli/command.h"
+#include "cli/message.h"
 #include "cli/row_output.h"
 #include "cli/session.h"
 #include "platform/code_page.h"
@@ -64,8 +65,8 @@ class RecordPrinter final : public UndoListener {
       }
       json_->Add(object);
     } else {
-      std::cout << (done ? "done     " : "skipped  ") << DisplayUtf8(record);
-      std::cout << (reason.empty() ? "" : " (" + DisplayUtf8(reason) + ")") << '\n';
+      std::cout << (done ? "done     " : "skipped  ") << ForOutput(DisplayUtf8(record));
+      std::cout << (reason.empty() ? "" : " (" + ForOutput(DisplayUtf8(reason)) + ")") << '\n';
     }
   }
 
