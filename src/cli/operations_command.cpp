@@ -5,9 +5,9 @@
 
 #include "catalogue/operation_keys.h"
 #include "cli/command.h"
+#include "cli/command_world.h"
 #include "cli/json_text.h"
 #include "cli/message.h"
-#include "cli/session.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {

@@ -13,18 +13,18 @@ namespace vorlane {
 namespace {
 
 // Rows that a stopped preview didn't get to have no proposal and are left out.
-std::vector<std::int32_t> PreviewRows(const OperationArguments& arguments, Session& session) {
+std::vector<std::int32_t> PreviewRows(const OperationArguments& arguments, CommandWorld& world) {
   std::vector<std::int32_t> rows;
   if (!arguments.Only.empty()) {
-    rows = arguments.PreviewOnly(session);
+    rows = arguments.PreviewOnly(world);
   } else {
-    session.Previews.UpdateFilePreviewAll(true, 0);
-    rows.resize(static_cast<std::size_t>(session.State.Rows.Count()));
+    world.Previews.UpdateFilePreviewAll(true, 0);
+    rows.resize(static_cast<std::size_t>(world.State.Rows.Count()));
     std::iota(rows.begin(), rows.end(), 1);
   }
   if (StopSignalled()) {
     std::erase_if(rows,
-                  [&](std::int32_t row) { return session.State.Rows.At(row).Proposed.empty(); });
+                  [&](std::int32_t row) { return world.State.Rows.At(row).Proposed.empty(); });
   }
   return rows;
 }
@@ -70,14 +70,14 @@ class PreviewPrinter {
 
 ExitStatus PrintPreview(const OperationArguments& arguments) {
   CatchStopSignals();
-  Session session;
-  arguments.Prepare(session);
-  const auto rows = PreviewRows(arguments, session);
-  session.Progress.Clear();
+  CommandWorld world;
+  arguments.Prepare(world);
+  const auto rows = PreviewRows(arguments, world);
+  world.Progress.Clear();
 
   // What a stopped preview got to is printed; a signal that comes only now stops the printing.
   const bool previewStopped = StopSignalled();
-  PreviewPrinter printer(arguments, session.State);
+  PreviewPrinter printer(arguments, world.State);
   for (const std::int32_t row : rows) {
     if (StopSignalled() != previewStopped) {
       break;
@@ -86,7 +86,7 @@ ExitStatus PrintPreview(const OperationArguments& arguments) {
   }
   const bool stopped = StopSignalled();
   printer.Finish(stopped);
-  return stopped ? ExitStatus::Refused : session.Status();
+  return stopped ? ExitStatus::Refused : world.Status();
 }
 
 }  // namespace

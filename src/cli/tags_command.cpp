@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/command_world.h"
 #include "cli/file_argument.h"
 #include "cli/file_tags.h"
 #include "cli/message.h"
 #include "cli/remaining_arguments.h"
-#include "cli/session.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
@@ -41,13 +41,13 @@ void PrintTag(const char* version, const ID3Tag& tag) {
 }
 
 ExitStatus PrintTags(const TagsCommandArguments& arguments) {
-  Session session;
+  CommandWorld world;
   std::vector<Text> paths;
   for (const std::string& file : arguments.Files) {
-    paths.push_back(FileArgument(session.Files, file));
+    paths.push_back(FileArgument(world.Files, file));
   }
   for (std::size_t i = 0; i < paths.size(); ++i) {
-    const FileTags tags = ReadFileTags(session.Files, session.Report, paths[i]);
+    const FileTags tags = ReadFileTags(world.Files, world.Report, paths[i]);
     if (arguments.AsJson) {
       std::cout << WriteJson(FileTagsToJson(arguments.Files[i], tags)) << '\n';
     } else {
@@ -56,7 +56,7 @@ ExitStatus PrintTags(const TagsCommandArguments& arguments) {
       PrintTag("ID3v2", tags.V2);
     }
   }
-  return session.Status();
+  return world.Status();
 }
 
 }  // namespace
