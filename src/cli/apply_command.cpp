@@ -33,11 +33,11 @@ struct WantedRow {
 // One row after the other, each as a run of its own that adds to the same journal. A run may move
 // rows, so each is found again by its folder and name. All are previewed before the first is
 // renamed, so that each gets the name that the preview command shows.
-void RunOnly(const OperationArguments& arguments, Session& session, BatchRun& run,
+void RunOnly(const OperationArguments& arguments, CommandWorld& world, BatchRun& run,
              RunPrinter& printer) {
-  Form& form = session.State;
+  Form& form = world.State;
   std::vector<WantedRow> wanted;
-  for (const std::int32_t row : arguments.PreviewOnly(session)) {
+  for (const std::int32_t row : arguments.PreviewOnly(world)) {
     wanted.push_back({form.Rows.PathOf(row), form.Rows.At(row).Name, form.Rows.At(row).Proposed});
   }
   auto start = JournalStart::New;
@@ -50,39 +50,38 @@ void RunOnly(const OperationArguments& arguments, Session& session, BatchRun& ru
       printer.RowVanished(entry.Name);
       continue;
     }
-    arguments.SelectRow(session, row);
+    arguments.SelectRow(world, row);
     form.SetProposedCell(row, entry.Proposed);
     run.cmdGo_Click(start);
     start = JournalStart::Continue;
   }
 }
 
-void WarnOfLongJournal(Session& session) {
+void WarnOfLongJournal(CommandWorld& world) {
   constexpr auto mostLines = static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max());
-  const Text& folder = session.State.CurrentPath;
-  if (JournalExists(session.Files, folder) &&
-      JournalLines(session.Files.ReadFileBytes(JournalPath(folder))).size() > mostLines) {
+  const Text& folder = world.State.CurrentPath;
+  if (JournalExists(world.Files, folder) &&
+      JournalLines(world.Files.ReadFileBytes(JournalPath(folder))).size() > mostLines) {
     PrintMessage(u"over 32767 records in the journal: undo can't take this run back");
   }
 }
 
 ExitStatus Apply(const OperationArguments& arguments) {
   CatchStopSignals();
-  Session session;
-  arguments.Prepare(session);
-  RunPrinter printer(session, arguments.AsJson, arguments.All);
-  BatchRun run(session.State, session.Outside, session.Facts, session.Previews, session.List,
-               &printer);
+  CommandWorld world;
+  arguments.Prepare(world);
+  RunPrinter printer(world, arguments.AsJson, arguments.All);
+  BatchRun run(world.State, world.Outside, world.Facts, world.Previews, world.List, &printer);
   if (arguments.Only.empty()) {
     run.cmdGo_Click();
   } else {
-    RunOnly(arguments, session, run, printer);
+    RunOnly(arguments, world, run, printer);
   }
-  session.Progress.Clear();
+  world.Progress.Clear();
   const bool stopped = StopSignalled();
   const bool nothingRefused = printer.Finish(stopped);
-  WarnOfLongJournal(session);
-  return nothingRefused && !stopped ? session.Status() : ExitStatus::Refused;
+  WarnOfLongJournal(world);
+  return nothingRefused && !stopped ? world.Status() : ExitStatus::Refused;
 }
 
 }  // namespace

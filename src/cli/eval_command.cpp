@@ -1,20 +1,20 @@
 // vorlane-cli eval: evaluates one code text for one entry, or many from JSON lines.
-#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
 
 #include "cli/box_argument.h"
 #include "cli/command.h"
+#include "cli/command_world.h"
 #include "cli/given_facts.h"
 #include "cli/json_fields.h"
 #include "cli/row_output.h"
-#include "cli/session.h"
 #include "cli/tag_json.h"
 #include "cli/whole_number.h"
 #include "engine/process_file_name.h"
 #include "metadata/tag_reading.h"
 #include "platform/file_name_bytes.h"
+#include "platform/user_folders.h"
 
 namespace vorlane {
 
@@ -85,9 +85,7 @@ Text FolderOf(const std::optional<Text>& folder, PathStyle style) {
   if (style != HostPathStyle) {
     return {};
   }
-  std::error_code error;
-  const auto here = std::filesystem::current_path(error);
-  return EnsureTrailingSeparator(TextFromBytes(here.native()), style);
+  return WorkingFolder();
 }
 
 void ShowBox(Question& question, std::size_t box, const Text& content) {
@@ -96,7 +94,7 @@ void ShowBox(Question& question, std::size_t box, const Text& content) {
 }
 
 ExitStatus EvaluateOne(const EvalCommandArguments& arguments) {
-  Session session;
+  CommandWorld world;
   Question question{.Code = TextFromBytes(arguments.Code),
                     .Name = TextFromBytes(arguments.Name),
                     .Number = arguments.Number,
@@ -115,15 +113,15 @@ ExitStatus EvaluateOne(const EvalCommandArguments& arguments) {
   }
   if (HasMp3Extension(question.Name)) {
     const Text path = question.Folder + question.Name;
-    question.Tags = ReadID3Tags(session.Files, session.Report, path);
+    question.Tags = ReadID3Tags(world.Files, world.Report, path);
   }
-  const Text result = Answer(question, session.Facts, session.Loop);
+  const Text result = Answer(question, world.Facts, world.Loop);
   if (arguments.AsJson) {
     std::cout << WriteJson({{"result", JsonString(result)}}) << '\n';
   } else {
     std::cout << PrintableName(result) << '\n';
   }
-  return session.Status();
+  return world.Status();
 }
 
 Text RequiredText(const Json& line, const std::string& name) {
@@ -163,29 +161,29 @@ Question QuestionOf(const Json& line) {
   return question;
 }
 
-Json AnswerTo(const Json& line, Session& session) {
+Json AnswerTo(const Json& line, CommandWorld& world) {
   Question question = QuestionOf(line);
   const Json* given = ObjectField(line, "facts");
-  GivenFacts facts(given == nullptr ? Json::object() : *given, session.Facts);
-  const Text result = Answer(question, facts, session.Loop);
+  GivenFacts facts(given == nullptr ? Json::object() : *given, world.Facts);
+  const Text result = Answer(question, facts, world.Loop);
   return {{"id", line.value("id", Json())}, {"result", JsonString(result)}};
 }
 
 // A line that can't be read is told of by its number; the lines before it have been answered.
 ExitStatus EvaluateLines() {
-  Session session;
+  CommandWorld world;
   std::string line;
   for (std::size_t number = 1; std::getline(std::cin, line); ++number) {
     if (line.find_first_not_of(" \t\r") == std::string::npos) {
       continue;
     }
     try {
-      std::cout << WriteJson(AnswerTo(ReadJsonObject(line), session)) << '\n';
+      std::cout << WriteJson(AnswerTo(ReadJsonObject(line), world)) << '\n';
     } catch (const CommandError& error) {
       throw CommandError(error.Status(), "line " + std::to_string(number) + ": " + error.what());
     }
   }
-  return session.Status();
+  return world.Status();
 }
 
 ExitStatus Evaluate(const EvalCommandArguments& arguments, bool hasEntry) {

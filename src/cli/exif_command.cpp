@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/command_world.h"
 #include "cli/error_json.h"
 #include "cli/file_argument.h"
 #include "cli/message.h"
 #include "cli/remaining_arguments.h"
-#include "cli/session.h"
 #include "metadata/exif.h"
 #include "platform/file_name_bytes.h"
 
@@ -53,7 +53,7 @@ Json ImageJson(const clsEXIF& image) {
 }
 
 void PrintPlain(const std::string& file, const clsEXIF& image) {
-  std::cout << file << '\n';
+  std::cout << ForOutput(file) << '\n';
   if (image.ReadStatus() != ExifReadStatus::Read) {
     std::cout << "  " << DisplayUtf8(image.ListInfo()) << '\n';
     return;
@@ -64,10 +64,10 @@ void PrintPlain(const std::string& file, const clsEXIF& image) {
 }
 
 // One image; a failure is told of, and with JSON stands in the place of the entries.
-void PrintImage(Session& session, const std::string& file, TextView path, bool asJson) {
+void PrintImage(CommandWorld& world, const std::string& file, TextView path, bool asJson) {
   Json object{{"file", JsonString(TextFromBytes(file))}};
   try {
-    clsEXIF image(session.Files);
+    clsEXIF image(world.Files);
     image.SetImageFile(path);
     object.update(ImageJson(image));
     if (!asJson) {
@@ -75,7 +75,7 @@ void PrintImage(Session& session, const std::string& file, TextView path, bool a
     }
   } catch (const RunError& error) {
     object["error"] = ErrorToJson(error);
-    session.Report.ReportError(u"", u"SetImageFile", path, error);
+    world.Report.ReportError(u"", u"SetImageFile", path, error);
   }
   if (asJson) {
     std::cout << WriteJson(object) << '\n';
@@ -83,15 +83,15 @@ void PrintImage(Session& session, const std::string& file, TextView path, bool a
 }
 
 ExitStatus PrintImages(const ExifCommandArguments& arguments) {
-  Session session;
+  CommandWorld world;
   std::vector<Text> paths;
   for (const std::string& file : arguments.Files) {
-    paths.push_back(FileArgument(session.Files, file));
+    paths.push_back(FileArgument(world.Files, file));
   }
   for (std::size_t i = 0; i < paths.size(); ++i) {
-    PrintImage(session, arguments.Files[i], paths[i], arguments.AsJson);
+    PrintImage(world, arguments.Files[i], paths[i], arguments.AsJson);
   }
-  return session.Status();
+  return world.Status();
 }
 
 }  // namespace

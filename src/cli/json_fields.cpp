@@ -23,6 +23,8 @@ Json ReadJsonObject(const std::string& text) {
     object = ReadJson(text);
   } catch (const Json::parse_error& error) {
     throw CommandError(ExitStatus::Usage, "not JSON at byte " + std::to_string(error.byte));
+  } catch (const Json::out_of_range&) {
+    throw CommandError(ExitStatus::Usage, "a number is too large");
   }
   if (!object.is_object()) {
     throw CommandError(ExitStatus::Usage, "expected a JSON object");

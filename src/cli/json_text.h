@@ -20,7 +20,8 @@ Text TextOfJson(const std::string& string);
 // The document on one line, as UTF-8.
 std::string WriteJson(const Json& document);
 
-// Throws Json::parse_error for text that is no JSON.
+// Throws Json::parse_error for text that is no JSON, Json::out_of_range for a number beyond those
+// that can be held.
 Json ReadJson(std::string_view document);
 
 }  // namespace vorlane

@@ -12,9 +12,9 @@ void ListArguments::AddTo(CLI::App& command) {
   command.add_flag("--folders", Folders, "List folders instead of files");
 }
 
-void ListArguments::List(Session& session, TextView defaultWildcard) const {
-  Form& form = session.State;
-  form.CurrentPath = FolderArgument(session.Files, Folder);
+void ListArguments::List(CommandWorld& world, TextView defaultWildcard) const {
+  Form& form = world.State;
+  form.CurrentPath = FolderArgument(world.Files, Folder);
   form.WildCard = Wildcard ? TextFromBytes(*Wildcard) : Text(defaultWildcard);
   if (form.WildCard.empty()) {
     form.WildCard = u"*.*";
@@ -22,8 +22,8 @@ void ListArguments::List(Session& session, TextView defaultWildcard) const {
   form.IncludeSubFolders = Recursive;
   form.ListFolders = Folders;
   form.SelectedOperation = 0;
-  session.List.PathChangedEvent();
-  session.Progress.Clear();
+  world.List.PathChangedEvent();
+  world.Progress.Clear();
 }
 
 }  // namespace vorlane

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/session.h"
+#include "cli/command_world.h"
 
 namespace vorlane {
 
@@ -17,9 +17,9 @@ struct ListArguments {
 
   void AddTo(CLI::App& command);
 
-  // Fills the session's list. As in the window's wildcard box, the empty text means "*.*". No
+  // Fills the world's list. As in the window's wildcard box, the empty text means "*.*". No
   // operation is selected meanwhile, so nothing is previewed yet.
-  void List(Session& session, TextView defaultWildcard) const;
+  void List(CommandWorld& world, TextView defaultWildcard) const;
 };
 
 }  // namespace vorlane

@@ -16,9 +16,9 @@ struct ListCommandArguments {
 };
 
 ExitStatus ListEntries(const ListCommandArguments& arguments) {
-  Session session;
-  arguments.Entries.List(session, u"*.*");
-  const Form& form = session.State;
+  CommandWorld world;
+  arguments.Entries.List(world, u"*.*");
+  const Form& form = world.State;
   if (arguments.AsJson) {
     JsonListPrinter printer;
     for (std::int32_t row = 1; row <= form.Rows.Count(); ++row) {
@@ -32,7 +32,7 @@ ExitStatus ListEntries(const ListCommandArguments& arguments) {
                 << PrintableName(form.Rows.At(row).Name) << '\n';
     }
   }
-  return session.Status();
+  return world.Status();
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/message.h"
 #include "cli/remaining_arguments.h"
 #include "filelist/wildcard.h"
 #include "platform/file_name_bytes.h"
@@ -22,7 +23,7 @@ ExitStatus PrintMatches(const MatchCommandArguments& arguments) {
   bool any = false;
   for (const std::string& name : arguments.Names) {
     if (MatchesWildcard(TextFromBytes(name), TextFromBytes(arguments.Wildcard))) {
-      std::cout << name << '\n';
+      std::cout << ForOutput(name) << '\n';
       any = true;
     }
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "platform/console.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
@@ -13,7 +14,17 @@ std::string OnOneLine(std::string text) {
   std::replace_if(
       text.begin(), text.end(),
       [](unsigned char byte) { return byte < firstPrintable || byte == deleted; }, '?');
+  // The control characters from U+0080 to U+009F, which terminals obey as well.
+  for (auto at = text.find('\xC2'); at != std::string::npos; at = text.find('\xC2', at + 1)) {
+    if (at + 1 < text.size() && (static_cast<unsigned char>(text[at + 1]) & 0xE0U) == 0x80U) {
+      text.replace(at, 2, "?");
+    }
+  }
   return text;
+}
+
+std::string ForOutput(std::string text) {
+  return StandardOutputIsTerminal() ? OnOneLine(std::move(text)) : text;
 }
 
 void PrintMessage(const std::string& message) {

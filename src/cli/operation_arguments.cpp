@@ -5,6 +5,7 @@
 
 #include "cli/box_argument.h"
 #include "cli/whole_number.h"
+#include "platform/console.h"
 #include "platform/file_name_bytes.h"
 #include "platform/letter_case.h"
 
@@ -49,28 +50,28 @@ void OperationArguments::AddTo(CLI::App& command) {
   command.add_flag("--all", All, "Print unchanged rows too");
 }
 
-void OperationArguments::Prepare(Session& session) const {
+void OperationArguments::Prepare(CommandWorld& world) const {
   if (!Operation && Codes.empty()) {
     throw CommandError(ExitStatus::Usage, "--operation or --code is required");
   }
-  Form& form = session.State;
+  Form& form = world.State;
   OperationKeys keys;
-  LoadCodes(session, keys);
-  FillBoxes(session, keys);  // wrong ones are told of before anything is listed
-  form.Boxes = {};           // the listing would put values of its own into them
+  LoadCodes(world, keys);
+  FillBoxes(world, keys);  // wrong ones are told of before anything is listed
+  form.Boxes = {};         // the listing would put values of its own into them
   const std::int32_t operation = form.SelectedOperation;
-  Entries.List(session, keys.Wildcard.value_or(Text(u"*.*")));
+  Entries.List(world, keys.Wildcard.value_or(Text(u"*.*")));
   form.SelectedOperation = operation;
   form.DoAll = Only.empty();
-  FillBoxes(session, keys);
+  FillBoxes(world, keys);
 }
 
-void OperationArguments::FillBoxes(Session& session, const OperationKeys& keys) const {
-  Form& form = session.State;
+void OperationArguments::FillBoxes(CommandWorld& world, const OperationKeys& keys) const {
+  Form& form = world.State;
   ShowBoxes(form, keys);
   const auto unclicked = form.Boxes;
   if (!Checks.empty()) {
-    session.List.lstFileListItemClick();  // shows the values for the first row, if there is one
+    world.List.lstFileListItemClick();  // shows the values for the first row, if there is one
   }
   TickChecks(form);
   for (std::size_t i = 0; i < form.Boxes.size(); ++i) {
@@ -83,8 +84,8 @@ void OperationArguments::FillBoxes(Session& session, const OperationKeys& keys) 
   TypeBoxTexts(form);
 }
 
-void OperationArguments::LoadCodes(Session& session, OperationKeys& keys) const {
-  Form& form = session.State;
+void OperationArguments::LoadCodes(CommandWorld& world, OperationKeys& keys) const {
+  Form& form = world.State;
   if (!Codes.empty()) {
     Text code;
     for (const std::string& step : Codes) {
@@ -97,15 +98,15 @@ void OperationArguments::LoadCodes(Session& session, OperationKeys& keys) const 
     form.SelectedOperation = 1;
     return;
   }
-  OperationsTree tree = CatalogueArgument(session.Files, Catalogue);
+  OperationsTree tree = CatalogueArgument(world.Files, Catalogue);
   if (tree.Failure) {
-    session.Troubles.Tell(DescribeFailure(tree));
+    world.Troubles.Tell(DescribeFailure(tree));
   }
   form.SelectedOperation = FindOperation(tree);
   form.OperationCodes = std::move(tree.OperationCodes);
   keys = ReadOperationKeys(form.SelectedCode());
   if (keys.Failure) {
-    session.Report.ReportError(FormName, u"lstRenamingOperations_NodeClick", u"", *keys.Failure);
+    world.Report.ReportError(FormName, u"lstRenamingOperations_NodeClick", u"", *keys.Failure);
   }
 }
 
@@ -210,19 +211,22 @@ std::vector<std::int32_t> OperationArguments::OnlyRows(const FileRows& rows) con
   return found;
 }
 
-std::vector<std::int32_t> OperationArguments::PreviewOnly(Session& session) const {
-  auto rows = OnlyRows(session.State.Rows);
+std::vector<std::int32_t> OperationArguments::PreviewOnly(CommandWorld& world) const {
+  auto rows = OnlyRows(world.State.Rows);
   for (const std::int32_t row : rows) {
-    SelectRow(session, row);
-    session.Previews.UpdateFilePreviewAll(false, row);
+    if (StopSignalled()) {
+      break;
+    }
+    SelectRow(world, row);
+    world.Previews.UpdateFilePreviewAll(false, row);
   }
   return rows;
 }
 
-void OperationArguments::SelectRow(Session& session, std::int32_t row) const {
-  session.State.SelectRow(row);
-  session.List.lstFileListItemClick();
-  TypeBoxTexts(session.State);
+void OperationArguments::SelectRow(CommandWorld& world, std::int32_t row) const {
+  world.State.SelectRow(row);
+  world.List.lstFileListItemClick();
+  TypeBoxTexts(world.State);
 }
 
 }  // namespace vorlane

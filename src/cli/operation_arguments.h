@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "catalogue/operation_keys.h"
+#include "cli/command_world.h"
 #include "cli/list_arguments.h"
-#include "cli/session.h"
 
 namespace vorlane {
 
@@ -26,20 +26,20 @@ struct OperationArguments {
 
   // Lists the folder and selects the operation, all boxes as the arguments want them.
   // Throws CommandError.
-  void Prepare(Session& session) const;
+  void Prepare(CommandWorld& world) const;
 
   // Previews the rows that --only names, one by one as in One mode, and returns them from the top
-  // down: a proposal takes account of those above it. Throws CommandError (NotFound) for a name
-  // that isn't listed.
-  std::vector<std::int32_t> PreviewOnly(Session& session) const;
+  // down: a proposal takes account of those above it. After a stop signal the rows that are
+  // left keep no proposal. Throws CommandError (NotFound) for a name that isn't listed.
+  std::vector<std::int32_t> PreviewOnly(CommandWorld& world) const;
 
   // Selects the row as a click does, and types the box texts again.
-  void SelectRow(Session& session, std::int32_t row) const;
+  void SelectRow(CommandWorld& world, std::int32_t row) const;
 
  private:
   std::int32_t FindOperation(const OperationsTree& tree) const;
-  void LoadCodes(Session& session, OperationKeys& keys) const;
-  void FillBoxes(Session& session, const OperationKeys& keys) const;
+  void LoadCodes(CommandWorld& world, OperationKeys& keys) const;
+  void FillBoxes(CommandWorld& world, const OperationKeys& keys) const;
   void ShowBoxes(Form& form, const OperationKeys& keys) const;
   void TypeBoxTexts(Form& form) const;
   void TickChecks(Form& form) const;

@@ -5,9 +5,9 @@
 
 #include "catalogue/operation_keys.h"
 #include "cli/command.h"
+#include "cli/command_world.h"
 #include "cli/json_text.h"
 #include "cli/message.h"
-#include "cli/session.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
@@ -51,8 +51,8 @@ ExitStatus ListOperations(const OperationsCommandArguments& arguments) {
       document.push_back(NodeJson(node, code));
     } else {
       const auto indent = 2 * static_cast<std::size_t>(node.Depth - 1);
-      std::cout << node.Index << '\t' << std::string(indent, ' ') << DisplayUtf8(node.Title)
-                << (code.empty() ? ":" : "") << '\n';
+      std::cout << node.Index << '\t' << std::string(indent, ' ')
+                << ForOutput(DisplayUtf8(node.Title)) << (code.empty() ? ":" : "") << '\n';
     }
   }
   if (arguments.AsJson) {

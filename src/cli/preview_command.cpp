@@ -12,45 +12,81 @@ namespace vorlane {
 
 namespace {
 
-std::vector<std::int32_t> PreviewRows(const OperationArguments& arguments, Session& session) {
+// Rows that a stopped preview didn't get to have no proposal and are left out.
+std::vector<std::int32_t> PreviewRows(const OperationArguments& arguments, CommandWorld& world) {
+  std::vector<std::int32_t> rows;
   if (!arguments.Only.empty()) {
-    return arguments.PreviewOnly(session);
+    rows = arguments.PreviewOnly(world);
+  } else {
+    world.Previews.UpdateFilePreviewAll(true, 0);
+    rows.resize(static_cast<std::size_t>(world.State.Rows.Count()));
+    std::iota(rows.begin(), rows.end(), 1);
   }
-  session.Previews.UpdateFilePreviewAll(true, 0);
-  std::vector<std::int32_t> all(static_cast<std::size_t>(session.State.Rows.Count()));
-  std::iota(all.begin(), all.end(), 1);
-  return all;
+  if (StopSignalled()) {
+    std::erase_if(rows,
+                  [&](std::int32_t row) { return world.State.Rows.At(row).Proposed.empty(); });
+  }
+  return rows;
 }
 
-ExitStatus PrintPreview(const OperationArguments& arguments) {
-  CatchStopSignals();
-  Session session;
-  arguments.Prepare(session);
-  const auto rows = PreviewRows(arguments, session);
-  session.Progress.Clear();
+// Prints rows one by one, and how many of them would be renamed.
+class PreviewPrinter {
+ public:
+  PreviewPrinter(const OperationArguments& arguments, const Form& form)
+      : arguments_(arguments), form_(form) {}
 
-  const Form& form = session.State;
-  if (arguments.AsJson) {
-    JsonListPrinter printer;
-    for (const std::int32_t row : rows) {
-      printer.Add(RowJson(form, row));
-    }
-    printer.Finish();
-    return session.Status();
-  }
-  std::size_t changes = 0;
-  for (const std::int32_t row : rows) {
-    const FileRow& cells = form.Rows.At(row);
+  void Print(std::int32_t row) {
+    const FileRow& cells = form_.Rows.At(row);
     const bool changed = !cells.Proposed.empty() && cells.Proposed != cells.Name;
-    changes += changed && !cells.Proposed.starts_with(u"<") ? 1 : 0;
-    if (changed || arguments.All) {
+    changes_ += changed && !cells.Proposed.starts_with(u"<") ? 1 : 0;
+    ++rows_;
+    if (arguments_.AsJson) {
+      json_.Add(RowJson(form_, row));
+    } else if (changed || arguments_.All) {
       std::cout << PrintableName(cells.Name) << " -> "
                 << PrintableName(cells.Proposed.empty() ? cells.Name : cells.Proposed) << '\n';
     }
   }
-  std::cout.flush();
-  std::cerr << changes << " of " << rows.size() << " would be renamed\n";
-  return session.Status();
+
+  // A summary goes to standard error, with JSON only if the preview was stopped.
+  void Finish(bool stopped) {
+    if (arguments_.AsJson) {
+      json_.Finish();
+    }
+    std::cout.flush();
+    if (!arguments_.AsJson || stopped) {
+      std::cerr << changes_ << " of " << rows_ << " would be renamed"
+                << (stopped ? ", stopped\n" : "\n");
+    }
+  }
+
+ private:
+  const OperationArguments& arguments_;
+  const Form& form_;
+  JsonListPrinter json_;
+  std::size_t rows_ = 0;
+  std::size_t changes_ = 0;
+};
+
+ExitStatus PrintPreview(const OperationArguments& arguments) {
+  CatchStopSignals();
+  CommandWorld world;
+  arguments.Prepare(world);
+  const auto rows = PreviewRows(arguments, world);
+  world.Progress.Clear();
+
+  // What a stopped preview got to is printed; a signal that comes only now stops the printing.
+  const bool previewStopped = StopSignalled();
+  PreviewPrinter printer(arguments, world.State);
+  for (const std::int32_t row : rows) {
+    if (StopSignalled() != previewStopped) {
+      break;
+    }
+    printer.Print(row);
+  }
+  const bool stopped = StopSignalled();
+  printer.Finish(stopped);
+  return stopped ? ExitStatus::Refused : world.Status();
 }
 
 }  // namespace

@@ -2,13 +2,14 @@
 
 #include <iostream>
 
+#include "cli/message.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
 
 std::string PrintableName(TextView name) {
   const auto bytes = BytesFromText(name);
-  return bytes ? *bytes : DisplayUtf8(name);
+  return ForOutput(bytes ? *bytes : DisplayUtf8(name));
 }
 
 Json RowJson(const Form& form, std::int32_t row) {
@@ -28,17 +29,13 @@ Json RowJson(const Form& form, std::int32_t row) {
   return json;
 }
 
-JsonListPrinter::JsonListPrinter() {
-  std::cout << '[';
-}
-
 void JsonListPrinter::Add(const Json& element) {
-  std::cout << (first_ ? "\n" : ",\n") << WriteJson(element);
+  std::cout << (first_ ? "[\n" : ",\n") << WriteJson(element);
   first_ = false;
 }
 
 void JsonListPrinter::Finish() {
-  std::cout << (first_ ? "]\n" : "\n]\n");
+  std::cout << (first_ ? "[]\n" : "\n]\n");
 }
 
 }  // namespace vorlane

@@ -44,7 +44,7 @@ Text FromFolder(const Text& folder, const Text& base) {
 
 }  // namespace
 
-RunPrinter::RunPrinter(Session& session, bool asJson, bool all) : session_(session), all_(all) {
+RunPrinter::RunPrinter(CommandWorld& world, bool asJson, bool all) : world_(world), all_(all) {
   if (asJson) {
     json_ = std::make_unique<JsonListPrinter>();
   }
@@ -52,7 +52,7 @@ RunPrinter::RunPrinter(Session& session, bool asJson, bool all) : session_(sessi
 
 // Trouble in front of the row isn't the row's.
 void RunPrinter::RowStarted(std::int32_t /*row*/) {
-  session_.Troubles.Take();
+  world_.Troubles.Take();
 }
 
 void RunPrinter::RowFinished(const RowOutcome& outcome) {
@@ -71,7 +71,7 @@ RunPrinter::Verdict RunPrinter::VerdictOn(const RowOutcome& outcome) {
   Verdict verdict;
   verdict.Renamed = outcome.RenameTried && outcome.Rename.Outcome == RenameOutcome::Done;
   verdict.Reason = RefusalOf(outcome, verdict.Renamed);
-  const Text trouble = session_.Troubles.Take();
+  const Text trouble = world_.Troubles.Take();
   if (verdict.Reason.empty() && !trouble.empty()) {
     verdict.Reason = trouble;
     verdict.ReasonTold = true;
@@ -83,11 +83,11 @@ RunPrinter::Verdict RunPrinter::VerdictOn(const RowOutcome& outcome) {
 
 void RunPrinter::RowVanished(TextView name) {
   ++refusals_;
-  session_.Troubles.Tell(Text(name) + u": the entry has gone");
+  world_.Troubles.Tell(Text(name) + u": the entry has gone");
 }
 
 void RunPrinter::PrintJson(const RowOutcome& outcome, const Verdict& verdict) {
-  Json row = RowJson(session_.State, outcome.Row);
+  Json row = RowJson(world_.State, outcome.Row);
   row["name"] = JsonString(outcome.Name);
   row["done"] = verdict.Done;
   if (!outcome.Steps.MovedTo.empty()) {
@@ -105,7 +105,7 @@ void RunPrinter::PrintPlain(const RowOutcome& outcome, const Verdict& verdict) {
   }
   if (verdict.Done || all_) {
     const Text& newName = verdict.Renamed ? outcome.Proposed : outcome.Name;
-    const Text place = FromFolder(outcome.Steps.MovedTo, session_.State.CurrentPath);
+    const Text place = FromFolder(outcome.Steps.MovedTo, world_.State.CurrentPath);
     std::cout << PrintableName(outcome.Name) << " -> " << PrintableName(place + newName) << '\n';
   }
 }

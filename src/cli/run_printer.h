@@ -4,15 +4,15 @@
 #include <memory>
 
 #include "batch/batch_run.h"
+#include "cli/command_world.h"
 #include "cli/row_output.h"
-#include "cli/session.h"
 
 namespace vorlane {
 
 class RunPrinter final : public RunListener {
  public:
   // `all` prints unchanged rows too.
-  RunPrinter(Session& session, bool asJson, bool all);
+  RunPrinter(CommandWorld& world, bool asJson, bool all);
 
   void RowStarted(std::int32_t row) override;
   void RowFinished(const RowOutcome& outcome) override;
@@ -36,7 +36,7 @@ class RunPrinter final : public RunListener {
   void PrintJson(const RowOutcome& outcome, const Verdict& verdict);
   void PrintPlain(const RowOutcome& outcome, const Verdict& verdict);
 
-  Session& session_;
+  CommandWorld& world_;
   std::unique_ptr<JsonListPrinter> json_;
   const bool all_;
   std::size_t rows_ = 0;

@@ -29,13 +29,14 @@ class KeptReport final : public FailureReport {
 
 }  // namespace
 
-ExitStatus ChangeTags(const std::string& file, bool asJson,
-                      const std::function<void(Session&, FailureReport&, TextView path)>& change) {
+ExitStatus ChangeTags(
+    const std::string& file, bool asJson,
+    const std::function<void(CommandWorld&, FailureReport&, TextView path)>& change) {
   CatchStopSignals();
-  Session session;
-  const Text path = FileArgument(session.Files, file);
+  CommandWorld world;
+  const Text path = FileArgument(world.Files, file);
   KeptReport report;
-  ReportingFailures(report, u"", u"", u"", [&] { change(session, report, path); });
+  ReportingFailures(report, u"", u"", u"", [&] { change(world, report, path); });
   if (report.First) {
     if (asJson) {
       std::cout << WriteJson({{"error", ErrorToJson(*report.First)}}) << '\n';
@@ -45,10 +46,10 @@ ExitStatus ChangeTags(const std::string& file, bool asJson,
     return ExitStatus::Refused;
   }
   if (asJson) {
-    const FileTags tags = ReadFileTags(session.Files, session.Report, path);
+    const FileTags tags = ReadFileTags(world.Files, world.Report, path);
     std::cout << WriteJson(FileTagsToJson(file, tags)) << '\n';
   }
-  return session.Status();
+  return world.Status();
 }
 
 }  // namespace vorlane

@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "cli/command_world.h"
 #include "cli/exit_status.h"
-#include "cli/session.h"
 
 namespace vorlane {
 
@@ -13,7 +13,8 @@ namespace vorlane {
 // number and description are printed; with JSON as {"error":{...}}, otherwise the tags that the
 // file has afterwards. A signal waits until the file is whole again. Throws CommandError if there
 // is no such file.
-ExitStatus ChangeTags(const std::string& file, bool asJson,
-                      const std::function<void(Session&, FailureReport&, TextView path)>& change);
+ExitStatus ChangeTags(
+    const std::string& file, bool asJson,
+    const std::function<void(CommandWorld&, FailureReport&, TextView path)>& change);
 
 }  // namespace vorlane

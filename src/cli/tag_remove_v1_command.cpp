@@ -16,8 +16,8 @@ struct TagRemoveV1CommandArguments {
 
 ExitStatus Remove(const TagRemoveV1CommandArguments& arguments) {
   return ChangeTags(arguments.File, arguments.AsJson,
-                    [](Session& session, FailureReport& report, TextView path) {
-                      RemoveID3v1(session.Files, report, path);
+                    [](CommandWorld& world, FailureReport& report, TextView path) {
+                      RemoveID3v1(world.Files, report, path);
                     });
 }
 

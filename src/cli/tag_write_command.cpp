@@ -68,19 +68,19 @@ ExitStatus Write(const TagWriteCommandArguments& arguments) {
   if (arguments.Record) {
     record = TagOfRecord(*arguments.Record);
   }
-  const auto change = [&](Session& session, FailureReport& report, TextView path) {
+  const auto change = [&](CommandWorld& world, FailureReport& report, TextView path) {
     ID3Tag tag;
     if (record) {
       tag = *record;
     } else {
-      tag = arguments.V1 ? ReadID3v1(session.Files, report, path)
-                         : ReadID3v2(session.Files, report, path);
+      tag = arguments.V1 ? ReadID3v1(world.Files, report, path)
+                         : ReadID3v2(world.Files, report, path);
       FillGivenFields(tag, arguments);
     }
     if (arguments.V1) {
-      WriteID3v1(session.Files, report, path, tag);
+      WriteID3v1(world.Files, report, path, tag);
     } else {
-      WriteID3v2OrFail(session.Files, report, session.State, path, tag, arguments.RemoveV1);
+      WriteID3v2OrFail(world.Files, report, world.State, path, tag, arguments.RemoveV1);
     }
   };
   return ChangeTags(arguments.File, arguments.AsJson, change);

@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/command_world.h"
 #include "cli/file_argument.h"
 #include "cli/file_tags.h"
 #include "cli/message.h"
 #include "cli/remaining_arguments.h"
-#include "cli/session.h"
 #include "platform/file_name_bytes.h"
 
 namespace vorlane {
@@ -41,22 +41,22 @@ void PrintTag(const char* version, const ID3Tag& tag) {
 }
 
 ExitStatus PrintTags(const TagsCommandArguments& arguments) {
-  Session session;
+  CommandWorld world;
   std::vector<Text> paths;
   for (const std::string& file : arguments.Files) {
-    paths.push_back(FileArgument(session.Files, file));
+    paths.push_back(FileArgument(world.Files, file));
   }
   for (std::size_t i = 0; i < paths.size(); ++i) {
-    const FileTags tags = ReadFileTags(session.Files, session.Report, paths[i]);
+    const FileTags tags = ReadFileTags(world.Files, world.Report, paths[i]);
     if (arguments.AsJson) {
       std::cout << WriteJson(FileTagsToJson(arguments.Files[i], tags)) << '\n';
     } else {
-      std::cout << arguments.Files[i] << ": " << tags.Kbit << " kbit/s\n";
+      std::cout << ForOutput(arguments.Files[i]) << ": " << tags.Kbit << " kbit/s\n";
       PrintTag("ID3v1", tags.V1);
       PrintTag("ID3v2", tags.V2);
     }
   }
-  return session.Status();
+  return world.Status();
 }
 
 }  // namespace

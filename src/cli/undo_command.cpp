@@ -4,8 +4,9 @@
 
 #include "batch/undo_run.h"
 #include "cli/command.h"
+#include "cli/command_world.h"
+#include "cli/message.h"
 #include "cli/row_output.h"
-#include "cli/session.h"
 #include "platform/code_page.h"
 #include "platform/console.h"
 #include "platform/file_name_bytes.h"
@@ -24,7 +25,7 @@ struct ReplayStopped {};
 
 class RecordPrinter final : public UndoListener {
  public:
-  RecordPrinter(Session& session, bool asJson) : session_(session) {
+  RecordPrinter(CommandWorld& world, bool asJson) : world_(world) {
     if (asJson) {
       json_ = std::make_unique<JsonListPrinter>();
     }
@@ -32,7 +33,7 @@ class RecordPrinter final : public UndoListener {
 
   void RecordReplayed(std::string_view line, UndoOutcome outcome, TextView reason) override {
     // The replay passes over what a writer of tags reports.
-    const Text trouble = session_.Troubles.Take();
+    const Text trouble = world_.Troubles.Take();
     const bool done = outcome == UndoOutcome::Done && trouble.empty();
     (done ? done_ : skipped_) += 1;
     Print(TextFromCodePage(line), done, reason.empty() ? TextView(trouble) : reason);
@@ -64,20 +65,20 @@ class RecordPrinter final : public UndoListener {
       }
       json_->Add(object);
     } else {
-      std::cout << (done ? "done     " : "skipped  ") << DisplayUtf8(record);
-      std::cout << (reason.empty() ? "" : " (" + DisplayUtf8(reason) + ")") << '\n';
+      std::cout << (done ? "done     " : "skipped  ") << ForOutput(DisplayUtf8(record));
+      std::cout << (reason.empty() ? "" : " (" + ForOutput(DisplayUtf8(reason)) + ")") << '\n';
     }
   }
 
-  Session& session_;
+  CommandWorld& world_;
   std::unique_ptr<JsonListPrinter> json_;
   std::size_t done_ = 0;
   std::size_t skipped_ = 0;
 };
 
-void RequireJournal(Session& session, const std::string& folder) {
+void RequireJournal(CommandWorld& world, const std::string& folder) {
   try {
-    if (!JournalExists(session.Files, session.State.CurrentPath)) {
+    if (!JournalExists(world.Files, world.State.CurrentPath)) {
       throw CommandError(ExitStatus::NotFound, "no journal in " + folder);
     }
   } catch (const RunError& error) {
@@ -88,20 +89,20 @@ void RequireJournal(Session& session, const std::string& folder) {
 
 ExitStatus Undo(const UndoCommandArguments& arguments) {
   CatchStopSignals();
-  Session session;
-  session.State.CurrentPath = FolderArgument(session.Files, arguments.Folder);
-  RequireJournal(session, arguments.Folder);
-  RecordPrinter printer(session, arguments.AsJson);
-  UndoRun undo(session.State, session.Outside, session.List, &printer);
+  CommandWorld world;
+  world.State.CurrentPath = FolderArgument(world.Files, arguments.Folder);
+  RequireJournal(world, arguments.Folder);
+  RecordPrinter printer(world, arguments.AsJson);
+  UndoRun undo(world.State, world.Outside, world.List, &printer);
   bool stopped = false;
   try {
     undo.cmdUndo_Click();
   } catch (const ReplayStopped&) {
     stopped = true;
   }
-  session.Progress.Clear();
+  world.Progress.Clear();
   const bool nothingSkipped = printer.Finish(stopped);
-  return nothingSkipped && !stopped ? session.Status() : ExitStatus::Refused;
+  return nothingSkipped && !stopped ? world.Status() : ExitStatus::Refused;
 }
 
 }  // namespace

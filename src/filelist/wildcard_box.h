@@ -1,8 +1,6 @@
 // The box with the wildcard: what a change of its text sets off, and which texts it remembers.
 #pragma once
 
-#include <vector>
-
 #include "form/form.h"
 
 namespace vorlane {

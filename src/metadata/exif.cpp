@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <memory>
-#include <optional>
 #include <utility>
 
 #include "metadata/exif_tag_names.h"

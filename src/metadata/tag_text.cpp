@@ -1,7 +1,5 @@
 #include "metadata/tag_text.h"
 
-#include <algorithm>
-
 #include "metadata/number_field.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "platform/file_name_bytes.h"
+#include "platform/letter_case.h"
 #include "platform/path_style.h"
 #include "platform/program_folder.h"
 
@@ -18,15 +19,26 @@ Text FolderText(const std::filesystem::path& folder) {
   return EnsureTrailingSeparator(TextFromBytes(folder.native()), PathStyle::Posix);
 }
 
+// In any case, as the file is looked for afterwards.
+bool HoldsOperations(const std::filesystem::path& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    if (EqualIgnoringCase(TextFromBytes(entry->path().filename().native()), u"Operations.ini")) {
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 Text ProgramFolder() {
   if (const char* home = std::getenv("VORLANE_HOME"); home != nullptr && *home != '\0') {
     return FolderText(home);
   }
-  std::error_code error;
   const auto binary = RunningBinary().parent_path();
-  if (std::filesystem::exists(binary / "Operations.ini", error)) {
+  if (HoldsOperations(binary)) {
     return FolderText(binary);
   }
   return FolderText(binary.parent_path() / "share" / "vorlane");

@@ -43,18 +43,6 @@ std::optional<std::string> ReadAll(int descriptor) {
   }
 }
 
-bool WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t count = write(descriptor, bytes.data(), bytes.size());
-    if (count >= 0) {
-      bytes.remove_prefix(static_cast<std::size_t>(count));
-    } else if (errno != EINTR) {
-      return false;
-    }
-  }
-  return true;
-}
-
 void MakeFoldersAbove(const std::string& path) {
   for (auto end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
     mkdir(path.substr(0, end).c_str(), FolderMode);
@@ -115,9 +103,11 @@ bool StartWriteOut(int descriptor) {
 bool WriteNewFile(const std::string& path, std::string_view bytes, mode_t mode) {
   unlink(path.c_str());  // left by a program that ended in the middle
   FileHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, FileMode));
-  return file.IsOpen() && fchmod(file.Descriptor(), mode) == 0 &&
-         WriteAll(file.Descriptor(), bytes) && StartWriteOut(file.Descriptor()) &&
-         file.Close() == 0;
+  const auto write = [&](std::string_view part, std::uint64_t position) {
+    return pwrite(file.Descriptor(), part.data(), part.size(), static_cast<off_t>(position));
+  };
+  return file.IsOpen() && fchmod(file.Descriptor(), mode) == 0 && WriteAll(0, bytes, write) == 0 &&
+         StartWriteOut(file.Descriptor()) && file.Close() == 0;
 }
 
 }  // namespace
@@ -149,9 +139,12 @@ std::optional<RegistryBytes> PosixRegistryFile::ReadUnless(const std::optional<F
 }
 
 bool PosixRegistryFile::Update(const Change& change) {
+  if (path_.empty()) {
+    return false;
+  }
   MakeFoldersAbove(path_);
   const FileHandle lock = Lock(path_ + ".lock", patience_);
-  if (path_.empty() || !lock.IsOpen()) {
+  if (!lock.IsOpen()) {
     return false;
   }
   const std::string target = ResolvedPath(path_);

@@ -6,7 +6,7 @@
 namespace vorlane {
 
 // The folder of the program's data, with its trailing separator: $VORLANE_HOME; else the folder of
-// the running binary if it holds Operations.ini; else ../share/vorlane from there.
+// the running binary if it holds Operations.ini, in any case; else ../share/vorlane from there.
 Text ProgramFolder();
 
 // The path by which the user's system starts this program: $APPIMAGE, if that is set; else the

@@ -3,7 +3,6 @@
 // come then run inside it.
 #pragma once
 
-#include <QObject>
 #include <deque>
 #include <functional>
 

@@ -9,7 +9,6 @@
 #include <QColor>
 #include <QFont>
 #include <QImage>
-#include <functional>
 
 #include "layout/frame_colors.h"
 

@@ -16,9 +16,6 @@ class FormGrip {
   // The form outlives this.
   explicit FormGrip(QWidget& form);
 
-  DragMode Mode() const { return mode_; }
-  bool IsOutlineVisible() const { return outline_.isVisible(); }
-
   // Arms the grip if the pointer, in the form's pixels, is over the strip, and shows so by the
   // form's cursor. Changes nothing while the left button is down or the window isn't of its normal
   // size.

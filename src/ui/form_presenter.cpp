@@ -1,6 +1,5 @@
 #include "ui/form_presenter.h"
 
-#include <QApplication>
 #include <QSignalBlocker>
 #include <algorithm>
 

@@ -1,6 +1,5 @@
 #include "ui/operations_view.h"
 
-#include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <utility>

@@ -2,7 +2,7 @@
 // looks for what a control sets off finds it in the Connect functions.
 #pragma once
 
-#include <memory>
+#include <functional>
 
 #include "batch/batch_run.h"
 #include "batch/undo_run.h"

@@ -28,7 +28,6 @@ class Skin {
  private:
   bool ShowPicture(const SkinFile& file);
   void ShowScaled(const SkinFile& file, ScaleFactors factors);
-  QImage Load(const SkinFile& file);
   void ShowOnButton(std::string_view name, const QImage& picture);
   ImageBar& Bar(const SkinFile& file);
   EasyButton& Button(std::string_view name);

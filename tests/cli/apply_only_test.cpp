@@ -116,6 +116,8 @@ TEST_F(CliApplyOnly, ANameThatIsNotListedChangesNothing) {
   for (const Lists& only : std::vector<Lists>{{"missing"}, {"a.txt", "missing"}, {"A.TXT"}, {""}}) {
     EXPECT_EQ(RefusalOf(Apply(only, {"--code", "x<FILENAME>"}), 3),
               "not in the list: " + only.back());
+    EXPECT_EQ(RefusalOf(Apply(only, {"--json", "--code", "x<FILENAME>"}), 3),
+              "not in the list: " + only.back());
     EXPECT_EQ(folder_.Contents(), before_);
   }
 }

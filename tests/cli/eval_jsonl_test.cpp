@@ -112,6 +112,8 @@ TEST(CliEvalJsonl, ABadLineIsToldOfByItsNumberBehindTheAnswersBeforeIt) {
       {R"({"code":"<FILENAME>","name":"a)", "not JSON at byte 31"},
       {R"({"code":"<FILENAME>","name":"a"} x)", "not JSON at byte 34"},
       {"{\"code\":\"\xE4\",\"name\":\"a\"}", "not JSON at byte 11"},
+      {R"({"code":"<FILENAME>","name":"a","number":1e999})", "a number is too large"},
+      {R"({"id":-1e999,"code":"<FILENAME>","name":"a"})", "a number is too large"},
       {"[1]", "expected a JSON object"},
       {"null", "expected a JSON object"},
       {"{}", "code is required"},

@@ -62,6 +62,15 @@ TEST_F(CliOperations, TheShippedOnesComeWithoutAFileName) {
   EXPECT_GT(Document(result).size(), 20U);
 }
 
+TEST_F(CliOperations, ThoseBesideTheProgramAreFoundInAnyCase) {
+  std::filesystem::copy_file(Cli.Path(), folder_.Path() + "vorlane-cli");
+  folder_.Write("operations.INI", WithCrLf("Operation Name:\tBeside\nStep: <FILENAME>\n\n"));
+  const ProgramFile copy(folder_.Path() + "vorlane-cli");
+  const ProgramResult result = RunProgram(copy, {.Arguments = {"operations"}});
+  EXPECT_EQ(result.Errors, "");
+  EXPECT_EQ(result.Output, "1\tBeside\n");
+}
+
 TEST_F(CliOperations, ABrokenFileIsListedUpToTheBreak) {
   const std::string broken = TestCatalogue() + WithCrLf("Operation Name: no tab\nStep: <A>\n\n");
   for (const bool asJson : {false, true}) {

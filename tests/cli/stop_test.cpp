@@ -103,5 +103,65 @@ TEST_P(CliStop, UndoFinishesTheRecordAndLeavesTheJournal) {
   EXPECT_EQ(Names(), before_);
 }
 
+// Enough work on each row that the preview is far from its end when its progress shows.
+std::vector<std::string> LongPreview(const std::string& folder, std::vector<std::string> more) {
+  std::string code = "new ";
+  for (int part = 0; part < 500; ++part) {
+    code += "<UPPERCASE><LEFT><FILENAME>|1|</LEFT></UPPERCASE>";
+  }
+  more.insert(more.begin(), {"preview", folder, "--code", code});
+  return more;
+}
+
+ProgramResult SignalInPreview(const std::vector<std::string>& arguments, int signal) {
+  RunningProgram program(Cli, {.Arguments = arguments, .ErrorsOnTerminal = true});
+  // Each reading waits for a moment; a program that shows none is done sooner or later.
+  for (int reading = 0; reading < 2000; ++reading) {
+    if (program.ReadErrors().find('%') != std::string::npos) {
+      break;
+    }
+  }
+  program.Signal(signal);
+  return program.Finish();
+}
+
+TEST_P(CliStop, PreviewTellsOfTheRowsItGotTo) {
+  const ProgramResult result = SignalInPreview(LongPreview(folder_.Path(), {"--all"}), GetParam());
+  EXPECT_EQ(result.Status, 1);
+  const std::size_t reached = Lines(result.Output).size();
+  EXPECT_GT(reached, 0U);
+  EXPECT_LT(reached, static_cast<std::size_t>(FilesToStopIn));
+  const std::string count = std::to_string(reached);
+  EXPECT_TRUE(result.Errors.ends_with("\r\x1b[K" + count + " of " + count +
+                                      " would be renamed, stopped\r\n"))
+      << result.Errors;
+}
+
+TEST_P(CliStop, PreviewLeavesAWholeDocument) {
+  const ProgramResult result = SignalInPreview(LongPreview(folder_.Path(), {"--json"}), GetParam());
+  EXPECT_EQ(result.Status, 1);
+  const Json rows = Document(result);
+  EXPECT_GT(rows.size(), 0U);
+  EXPECT_LT(rows.size(), static_cast<std::size_t>(FilesToStopIn));
+  for (const Json& row : rows) {
+    EXPECT_NE(row["proposed"], "");
+  }
+  EXPECT_TRUE(result.Errors.ends_with(" would be renamed, stopped\r\n")) << result.Errors;
+}
+
+TEST_P(CliStop, PreviewStopsInTheMiddleOfItsOutput) {
+  RunningProgram program(
+      Cli, {.Arguments = {"preview", folder_.Path(), "--json", "--code", "new <FILENAME>"}});
+  program.ReadSomeOutput();
+  program.Signal(GetParam());
+  const ProgramResult result = program.Finish();
+  EXPECT_EQ(result.Status, 1);
+  const std::size_t printed = Document(result).size();
+  EXPECT_GT(printed, 0U);
+  EXPECT_LT(printed, static_cast<std::size_t>(FilesToStopIn));
+  const std::string count = std::to_string(printed);
+  EXPECT_EQ(result.Errors, count + " of " + count + " would be renamed, stopped\n");
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -206,6 +206,7 @@ TEST_F(CliTagWrite, WrongArgumentsChangeNothing) {
       {{"--v1", "--genre", "32768"}, "Could not convert: --genre = 32768"},
       {{"--v1", "--record", "{}", "--artist", "A"}, "--record excludes --artist"},
       {{"--v1", "--record", "{"}, "--record: not JSON at byte 2"},
+      {{"--v1", "--record", R"({"genre":1e400})"}, "--record: a number is too large"},
       {{"--v1", "--record", "[]"}, "--record: expected a JSON object"},
       {{"--v1", "--record", R"({"artist":1})"}, "--record: artist: expected a text"},
       {{"--v1", "another.mp3"}, "The following argument was not expected: another.mp3"},

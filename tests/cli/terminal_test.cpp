@@ -40,5 +40,27 @@ TEST_F(CliTerminal, WithoutATerminalThereIsNone) {
   EXPECT_EQ(result.Output.find('\x1b'), std::string::npos);
 }
 
+// An escape code, a line break, the delete character and a code of the upper control range.
+TEST(CliTerminalNames, ControlCharactersAreShownAsQuestionMarksThereAlone) {
+  const TemporaryFolder folder;
+  const std::string name = "a\x1b[31m\nb\x7f\xC2\x9B -\xC2\xA0-\xC3\x9B";
+  const std::string shown = "a?[31m?b?? -\xC2\xA0-\xC3\x9B";
+  folder.Write(name);
+  const std::vector<std::vector<std::string>> commands = {
+      {"list", folder.Path()},
+      {"preview", folder.Path(), "--all", "--code", "<FILENAME>"},
+      {"apply", folder.Path(), "--all", "--code", "<FILENAME>"},
+      {"eval", "<FILENAME>", name},
+      {"match", "*", name},
+  };
+  for (const auto& command : commands) {
+    const std::string onTerminal =
+        RunProgram(Cli, {.Arguments = command, .OutputOnTerminal = true}).Output;
+    EXPECT_TRUE(onTerminal.starts_with(shown)) << command.front() << ": " << onTerminal;
+    EXPECT_EQ(onTerminal.find('\x1b'), std::string::npos) << command.front();
+    EXPECT_TRUE(RunCli(command).Output.starts_with(name)) << command.front();
+  }
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -40,6 +40,16 @@ TEST_F(PosixRegistryFileTest, AFileThatIsntThereIsEmpty) {
   EXPECT_FALSE(file_.ReadUnless(read->Stamp));
 }
 
+// A path that no file can have must not lead to the folder that the program works in.
+TEST_F(PosixRegistryFileTest, WithoutAPathThereIsNoFile) {
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(Folder());
+  const bool updated = PosixRegistryFile(u"").Update(To("one"));
+  std::filesystem::current_path(before);
+  EXPECT_FALSE(updated);
+  EXPECT_TRUE(folder_.Contents().empty());
+}
+
 TEST_F(PosixRegistryFileTest, ReadsWhatWasSaved) {
   EXPECT_TRUE(file_.Update([](std::string_view bytes) {
     EXPECT_EQ(bytes, "");

@@ -94,7 +94,7 @@ ProgramFile::~ProgramFile() {
 }
 
 RunningProgram::RunningProgram(const ProgramFile& program, const ProgramCall& call) {
-  const Ends output = OpenPipe();
+  const Ends output = call.OutputOnTerminal ? OpenTerminal() : OpenPipe();
   const Ends errors = call.ErrorsOnTerminal ? OpenTerminal() : OpenPipe();
   const int input = OpenInput(call.Input);
   std::vector<std::string> words = call.Arguments;

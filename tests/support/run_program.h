@@ -22,6 +22,7 @@ struct ProgramCall {
 
   std::string Folder = "/";         // where it works
   bool ErrorsOnTerminal = false;    // standard error is a terminal
+  bool OutputOnTerminal = false;    // standard output is one
   bool OutputOnFullDevice = false;  // standard output takes nothing
 };
 

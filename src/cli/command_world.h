@@ -16,14 +16,14 @@
 
 namespace vorlane {
 
-struct Session {
-  Session();
+struct CommandWorld {
+  CommandWorld();
 
   SystemClock Time;
   PosixFileSystem Files;
   TroubleLog Troubles;
   ConsoleReport Report;
-  ConsolePrompter Boxes;
+  ConsolePrompter Prompts;
   ConsoleLoop Loop;
   ConsoleProgress Progress;
   Services Outside;

@@ -1,4 +1,4 @@
-#include "cli/session.h"
+#include "cli/command_world.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -8,11 +8,11 @@
 
 namespace vorlane {
 
-Session::Session()
+CommandWorld::CommandWorld()
     : Report(Troubles),
-      Boxes(Troubles),
+      Prompts(Troubles),
       Progress(Time),
-      Outside{Files, Time, Loop, Report, Boxes},
+      Outside{Files, Time, Loop, Report, Prompts},
       State(Progress, Loop),
       Facts(Outside.Files, Outside.Time, Outside.Report, Outside.Prompts),
       Previews(State, Outside, Facts),
@@ -21,7 +21,7 @@ Session::Session()
   Loop.Attach(State.Jobs);
 }
 
-ExitStatus Session::Status() const {
+ExitStatus CommandWorld::Status() const {
   return Troubles.HasAny() ? ExitStatus::Refused : ExitStatus::Done;
 }
 
