@@ -8,6 +8,7 @@
 #include "support/settings_world.h"
 #include "ui/form_canvas.h"
 #include "ui/form_colours.h"
+#include "ui/mod_menu_ctl.h"
 #include "ui/program_icons.h"
 
 namespace vorlane {
@@ -305,6 +306,41 @@ TEST_F(FavoritesPopupTest, AFavoriteTakenInTheMiddleOfAListingIsWhatIsListed) {
   World.Open(World.Folder.Path());
   EXPECT_TRUE(inListing);
   EXPECT_EQ(World.ColumnTexts(Column::CurrentName), QStringList({"b.txt"}));
+}
+
+TEST_F(FavoritesPopupTest, AHeldStatusRunsOutWhileTheMenuIsOpen) {
+  World.Main.State().HoldStatus(u"held");
+  const QLabel& status = World.Find<QLabel>("lblStatus");
+  EXPECT_NE(status.text(), "held");
+  QTimer poll;
+  bool isShown = false;
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    if (QWidget* menu = Popup(); menu != nullptr && status.text() == "held") {
+      isShown = true;
+      menu->close();
+    }
+  });
+  poll.start(1);
+  MenuKey();
+  EXPECT_TRUE(isShown);
+  EXPECT_FALSE(World.Main.Timers().tmrProgramStatus.isActive());
+}
+
+TEST_F(FavoritesPopupTest, TheMenuHasAShadedFrame) {
+  QImage shown;
+  WithMenus({[&](QWidget& menu) {
+    shown = menu.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QTest::keyClick(&menu, Qt::Key_Escape);
+  }});
+  MenuKey();
+  FormCanvas canvas;
+  canvas.BackColor = DesktopColour::ButtonFace;
+  canvas.Resize(shown.size());
+  DrawFrameLayered(canvas, 3, {}, {}, false, World.Prompts);
+  QImage expected = canvas.Picture().convertToFormat(QImage::Format_RGB32);
+  const QRect inside = expected.rect().adjusted(3, 3, -3, -3);
+  QPainter(&expected).drawImage(inside.topLeft(), shown.copy(inside));
+  EXPECT_TRUE(SamePicture(shown, expected));
 }
 
 TEST_F(FavoritesPopupTest, TheMenuHasItsPicturesAndItsColour) {
