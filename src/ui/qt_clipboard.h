@@ -1,7 +1,6 @@
 // The desktop's clipboard. One that the desktop refuses is only logged: under X11 the toolkit
-// writes a line to the standard error and still calls the clipboard its own, so that nobody else
-// can notice it. Under Wayland a text that comes without a recent press or key may be dropped
-// without a word.
+// itself writes a line to the standard error. Under Wayland a compositor may drop a text that comes
+// without a recent press or key, which nobody can notice.
 #pragma once
 
 #include "platform/clipboard.h"
