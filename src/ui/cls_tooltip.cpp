@@ -22,6 +22,17 @@ double Rounded(double value) {
   return std::nearbyint(value);
 }
 
+bool IsPress(QEvent::Type event) {
+  return event == QEvent::MouseButtonPress || event == QEvent::MouseButtonDblClick;
+}
+
+// What the control is made of, such as the line edit of a box; not the windows that belong to it.
+QList<QWidget*> PartsOf(const QWidget& control) {
+  QList<QWidget*> parts = control.findChildren<QWidget*>();
+  parts.removeIf([&](const QWidget* part) { return part->window() != control.window(); });
+  return parts;
+}
+
 // The share of a length at the beginning, the middle or the end of it.
 Twips PartOf(Twips length, int third) {
   return third == 1 ? Rounded(length / 2) : length * third / 2;
@@ -129,14 +140,19 @@ void ClsTooltip::CreateToolTip(QWidget& parent) {
   topLevel_ = parent.window();
   parent.setAttribute(Qt::WA_Hover);  // it is told where the pointer is, without taking its moves
   parent.installEventFilter(this);
+  for (QWidget* part : PartsOf(parent)) {
+    part->installEventFilter(this);
+  }
   topLevel_->installEventFilter(this);
 }
 
 // Directly, not by the message loop: a loop that is run inside a long job clears nothing away.
 void ClsTooltip::Destroy() {
-  for (QWidget* watched : {parent_.data(), topLevel_.data(), client_.data()}) {
-    if (watched != nullptr) {
-      watched->removeEventFilter(this);
+  QList<QWidget*> watched = parent_ ? PartsOf(*parent_) : QList<QWidget*>();
+  watched << parent_ << topLevel_ << client_;
+  for (QWidget* widget : watched) {
+    if (widget != nullptr) {
+      widget->removeEventFilter(this);
     }
   }
   parent_ = nullptr;
@@ -230,6 +246,8 @@ bool ClsTooltip::eventFilter(QObject* watched, QEvent* event) {
   if (!isTracked_ && window_) {
     if (watched == parent_) {
       WatchPointer(event->type());
+    } else if (watched != topLevel_) {
+      WatchPart(event->type());
     } else if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::Move) {
       EndHover(Hover::Outside);
     }
@@ -258,6 +276,19 @@ void ClsTooltip::WatchPointer(QEvent::Type event) {
       break;
     default:
       break;
+  }
+}
+
+// A press in a part of the control is one in the control, which itself isn't told of it.
+void ClsTooltip::WatchPart(QEvent::Type event) {
+  if (IsPress(event)) {
+    EndHover(Hover::Over);
+  }
+}
+
+void ClsTooltip::AwaitNextRest() {
+  if (hover_ == Hover::Over) {
+    hover_ = Hover::Outside;
   }
 }
 

@@ -71,6 +71,10 @@ class ClsTooltip final : public QObject {
   // Above all other tips.
   void Raise();
 
+  // The pointer's next rest in the control counts, although a press or the time has ended the last
+  // one: the tip has something new to tell.
+  void AwaitNextRest();
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -85,6 +89,7 @@ class ClsTooltip final : public QObject {
   void FollowWindow();
   void PlaceTracked();
   void WatchPointer(QEvent::Type event);
+  void WatchPart(QEvent::Type event);
   void EndHover(Hover state);
   void PointerRested();
   void ShowHoverTip();

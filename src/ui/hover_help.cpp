@@ -22,14 +22,16 @@ void HoverHelp::ResetHoverState() {
   Tips.EndOnDemand();
 }
 
+// The labels alone tell it: balloons that a timer has taken down count as on demand still.
 bool HoverHelp::IsShown() const {
-  return Tips.BalloonsOnDemand() || !window_.Controls().HelpLabels.back()->isHidden();
+  return !window_.Controls().HelpLabels.back()->isHidden();
 }
 
 void HoverHelp::Toggle() {
   if (IsShown()) {
     ResetHoverState();
   } else {
+    Tips.EndOnDemand();
     ShowAll();
   }
 }

@@ -52,6 +52,7 @@ void KeywordBox::cboKeywords_Click(int entry) {
   }
   const TextView help = list_.HelpOf(index);
   tip_().SetTipText(help);
+  tip_().AwaitNextRest();  // the press of the pick has ended the one before
   box_.setAccessibleDescription(ToQString(help));
   clipboard_.Clear();
   clipboard_.SetText(list_.Entries[index]);

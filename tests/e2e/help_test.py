@@ -119,6 +119,20 @@ class HelpTest(WindowCase):
         self.tips_become({})
         self.close()
 
+    def test_a_keyword_picked_by_the_mouse_is_explained_at_once(self):
+        self.start_again()
+        left, top = KEYWORD_LIST
+        self.click(KEYWORD_LIST)
+        time.sleep(0.7)  # a release that follows sooner is still the end of the first press
+        self.pointer((left, top + 2))
+        self.click((left + 2, top + 2))
+        self.pointer((left + 8, top))  # never off the list
+        self.tips_become({"Keyword List": 1})
+        self.click(BOX_1)
+        self.keys("ctrl+a", "ctrl+v")
+        wait_for(lambda: self.setting("Prefix") == "<NAMEONLY>", "the keyword")
+        self.close()
+
     def test_a_missing_keyword_list_is_told(self):
         (self.program_folder / "KeywordList.ini").unlink()
         self.start_behind_a_message(self.files)

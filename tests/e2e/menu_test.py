@@ -2,7 +2,7 @@
 import signal
 import time
 
-from window_world import BARE, BOX_1, GO, WindowCase, wait_for
+from window_world import BARE, BOX_1, GO, HELP, TITLE, WindowCase, wait_for
 
 
 class MenuTest(WindowCase):
@@ -71,6 +71,46 @@ class MenuTest(WindowCase):
         self.assertEqual(self.names(), ["a.txt", "b.txt", "c.mp3"])
         self.assertIsNone(self.setting("Favorite_00"))
         self.close()
+
+    def test_the_menu_stays_on_the_screen(self):
+        self.start(self.files)
+        self.display.run("xdotool", "windowmove", "--sync", self.window, "380", "535")
+        left, top, width, height = self.geometry(self.right_click((1010, 508)))
+        self.assertEqual((left + width, top + height), (1400, 1050))
+        self.keys("Escape")
+        self.menu_goes()
+        self.close()
+
+    def test_the_menu_opens_beside_the_about_box(self):
+        self.start(self.files)
+        self.click(HELP)
+        box = wait_for(lambda: self.display.run("xdotool", "search", "--onlyvisible", "--name",
+                                                TITLE + " - About").stdout.split(),
+                       "the About box")[0]
+        self.display.run("xdotool", "windowmove", "--sync", box, "20", "600")
+        self.display.run("xdotool", "windowactivate", "--sync", box)
+        self.add_a_favorite()
+        self.close()
+
+    def test_the_menu_opens_in_a_window_behind_another(self):
+        self.start(self.files)
+        self.display.run("xdotool", "windowmove", "--sync", self.window, "370", "100")
+        behind, process = self.window, self.process
+        self.start_process(self.files)  # another program
+        front = wait_for(lambda: next((window for window in self.display.run(
+            "xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$").stdout.split()
+            if window != behind and self.geometry(window)[2] > 900), None), "the other window")
+        self.wait_for_rest()
+        self.display.run("xdotool", "windowmove", "--sync", front, "5", "400")
+        self.display.run("xdotool", "windowactivate", "--sync", front)
+        self.process = process
+        self.add_a_favorite()
+        self.close()
+
+    def add_a_favorite(self):
+        self.choose(self.right_click(), 3)
+        wait_for(lambda: self.setting("Favorite_00") == f"{self.files}/", "the favorite")
+        self.menu_goes()
 
     def test_favorites_by_the_keyboard(self):
         self.start(self.files)

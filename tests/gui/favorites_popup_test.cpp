@@ -8,6 +8,7 @@
 #include "support/settings_world.h"
 #include "ui/form_canvas.h"
 #include "ui/form_colours.h"
+#include "ui/mod_menu_ctl.h"
 #include "ui/program_icons.h"
 
 namespace vorlane {
@@ -326,6 +327,43 @@ TEST_F(FavoritesPopupTest, AFavoriteTakenInTheMiddleOfAListingIsWhatIsListed) {
   World.Open(World.Folder.Path());
   EXPECT_TRUE(inListing);
   EXPECT_EQ(World.ColumnTexts(Column::CurrentName), QStringList({"b.txt"}));
+}
+
+TEST_F(FavoritesPopupTest, AHeldStatusRunsOutWhileTheMenuIsOpen) {
+  const QTimer& holding = World.Main.Timers().tmrProgramStatus;
+  const QLabel& status = World.Find<QLabel>("lblStatus");
+  QTimer poll;
+  bool isShown = false;
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    QWidget* menu = Popup();
+    if (menu != nullptr && status.text() == "held") {
+      isShown = true;
+      menu->close();
+    } else if (menu != nullptr && !holding.isActive()) {
+      World.Main.State().HoldStatus(u"held");
+      EXPECT_NE(status.text(), "held");
+    }
+  });
+  poll.start(1);
+  MenuKey();
+  EXPECT_TRUE(isShown);
+}
+
+TEST_F(FavoritesPopupTest, TheMenuHasAShadedFrame) {
+  QImage shown;
+  WithMenus({[&](QWidget& menu) {
+    shown = menu.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QTest::keyClick(&menu, Qt::Key_Escape);
+  }});
+  MenuKey();
+  FormCanvas canvas;
+  canvas.BackColor = DesktopColour::ButtonFace;
+  canvas.Resize(shown.size());
+  DrawFrameLayered(canvas, 3, {}, {}, false, World.Prompts);
+  QImage expected = canvas.Picture().convertToFormat(QImage::Format_RGB32);
+  const QRect inside = expected.rect().adjusted(3, 3, -3, -3);
+  QPainter(&expected).drawImage(inside.topLeft(), shown.copy(inside));
+  EXPECT_TRUE(SamePicture(shown, expected));
 }
 
 TEST_F(FavoritesPopupTest, TheMenuHasItsPicturesAndItsColour) {

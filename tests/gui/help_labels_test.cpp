@@ -331,30 +331,87 @@ TEST_F(HelpTest, NothingIsLeftBehindAClosedWindow) {
   EXPECT_EQ(TipNamed(NameOfTip(0)), nullptr);
 }
 
-TEST(FirstStart, BalloonsStandUntilTheTimerEndsThem) {
-  WindowWorld world;
-  MovePointer(OffAllWindows);
-  QWidget front;
-  front.show();
-  front.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&front));
-  Program again({world.Files, world.Time, world.Report, world.Prompts, world.Memory, world.Sounds,
-                 world.Clipboard},
-                {});
-  again.Window().InitLayout();
-  again.HideLabelsLater(true);
-  again.Help().Tips.InitBalloonToolTips();
-  EXPECT_EQ(again.Timers().tmrHideAllLabels.interval(), 10000);
+struct FirstStart : testing::Test {
+  FirstStart() {
+    MovePointer(OffAllWindows);
+    BringToFront(Front);
+    Again.Window().InitLayout();
+    Again.HideLabelsLater(true);
+    Again.Help().Tips.InitBalloonToolTips();
+  }
+  static void BringToFront(QWidget& window) {
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+  void Show() {
+    Again.Show();
+    BringToFront(Again.Window());
+    EXPECT_TRUE(Again.Timers().tmrFileCounter.isActive());
+  }
+  QTimer& Hiding() { return Again.Timers().tmrHideAllLabels; }
+  static bool BalloonsCome() {
+    return WindowWorld::WaitFor([] { return IsShown(NameOfTip(0)); });
+  }
+  static bool BalloonsGo() {
+    return WindowWorld::WaitFor([] { return !IsShown(NameOfTip(0)); });
+  }
+
+  WindowWorld World;
+  QWidget Front;
+  Program Again{{World.Files, World.Time, World.Report, World.Prompts, World.Memory, World.Sounds,
+                 World.Clipboard},
+                {}};
+};
+
+TEST_F(FirstStart, BalloonsStandUntilTheTimerEndsThem) {
+  EXPECT_EQ(Hiding().interval(), 10000);
   EXPECT_FALSE(IsShown(NameOfTip(0)));
-  again.Show();
-  again.Window().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&again.Window()));
-  EXPECT_TRUE(WindowWorld::WaitFor([] { return IsShown(NameOfTip(0)); }));
-  EXPECT_FALSE(again.Window().Controls().HelpLabels.back()->isVisible());
-  again.Timers().tmrHideAllLabels.start(20);
-  EXPECT_TRUE(WindowWorld::WaitFor([] { return !IsShown(NameOfTip(0)); }));
-  EXPECT_FALSE(again.Timers().tmrHideAllLabels.isActive());
-  EXPECT_TRUE(again.Help().Tips.BalloonsOnDemand());
+  Show();
+  EXPECT_TRUE(BalloonsCome());
+  EXPECT_FALSE(Again.Window().Controls().HelpLabels.back()->isVisible());
+  Hiding().start(20);
+  EXPECT_TRUE(BalloonsGo());
+  EXPECT_FALSE(Hiding().isActive());
+  EXPECT_TRUE(Again.Help().Tips.BalloonsOnDemand());
+}
+
+TEST_F(FirstStart, WithoutTheTimerThereAreNoBalloons) {
+  Hiding().stop();
+  Show();
+  QTest::qWait(50);
+  EXPECT_FALSE(IsShown(NameOfTip(0)));
+  EXPECT_FALSE(Again.Help().Tips.BalloonsOnDemand());
+}
+
+TEST_F(FirstStart, OnlyTheFirstActivationShowsBalloons) {
+  Show();
+  EXPECT_TRUE(BalloonsCome());
+  Again.Help().ResetHoverState();
+  EXPECT_TRUE(BalloonsGo());
+  BringToFront(Front);
+  BringToFront(Again.Window());
+  ASSERT_TRUE(Hiding().isActive());
+  QTest::qWait(50);
+  EXPECT_FALSE(IsShown(NameOfTip(0)));
+}
+
+TEST_F(FirstStart, BehindItF1ShowsAllAtTheFirstPressAndEndsItAtTheSecond) {
+  const auto shown = [&] {
+    int count = Again.Window().Controls().HelpLabels.back()->isVisible() ? 1 : 0;
+    for (int i = 0; i < Count; ++i) {
+      count += IsShown(NameOfTip(i)) ? 1 : 0;
+    }
+    return count;
+  };
+  Show();
+  EXPECT_TRUE(BalloonsCome());
+  Hiding().start(20);
+  EXPECT_TRUE(BalloonsGo());
+  QTest::keyClick(&Again.Window(), Qt::Key_F1);
+  EXPECT_EQ(shown(), Count + 1);
+  QTest::keyClick(&Again.Window(), Qt::Key_F1);
+  EXPECT_EQ(shown(), 0);
 }
 
 TEST(LaterStart, ShowsNoBalloons) {
@@ -367,44 +424,6 @@ TEST(LaterStart, ShowsNoBalloons) {
   EXPECT_EQ(before, nullptr);
   EXPECT_TRUE(WindowWorld::WaitFor([] { return TipNamed(NameOfTip(0)) != nullptr; }));
   EXPECT_FALSE(IsShown(NameOfTip(0)));
-}
-
-struct SetUpTest : testing::Test {
-  SetUpTest() { Tip.setObjectName("tip"); }
-  void MakeTip(std::int16_t seconds) {
-    SetBalloonToolTip(Tip, Control,
-                      {.Title = u"T", .Text = u"x", .PopupOnDemand = true, .Seconds = seconds},
-                      Report);
-  }
-  QWidget Control;
-  ClsTooltip Tip;
-  RecordingReport Report;
-};
-
-TEST_F(SetUpTest, SetsEveryMember) {
-  MakeTip(32);
-  EXPECT_TRUE(Report.Reports.empty());
-  EXPECT_EQ(Tip.Style(), 1);
-  EXPECT_EQ(Tip.Icon(), 1);
-  EXPECT_EQ(Tip.Title(), u"T");
-  EXPECT_EQ(Tip.TipText(), u"x");
-  EXPECT_TRUE(Tip.PopupOnDemand());
-  EXPECT_EQ(Tip.DelayTime(), 100);
-  EXPECT_EQ(Tip.VisibleTime(), 32000);
-  EXPECT_NE(TipNamed("tip"), nullptr);
-}
-
-TEST_F(SetUpTest, SecondsThatOverflowAreReportedAndMakeNoTip) {
-  for (const int seconds : {33, 32767, -33}) {
-    Report.Reports.clear();
-    MakeTip(static_cast<std::int16_t>(seconds));
-    ASSERT_EQ(Report.Reports.size(), 1u) << seconds;
-    EXPECT_EQ(Report.Reports[0],
-              (RecordingReport::Report{u"frmMain", u"SetBalloonToolTip", u"", 6}));
-    EXPECT_EQ(Tip.DelayTime(), 100);
-    EXPECT_EQ(Tip.VisibleTime(), 5000);
-    EXPECT_EQ(TipNamed("tip"), nullptr);
-  }
 }
 
 TEST_F(HelpTest, AScreenReaderGetsTheTextsOfTheBalloons) {

@@ -18,6 +18,12 @@ struct KeywordBoxTest : testing::Test {
     Box.setCurrentIndex(entry);
     emit Box.activated(entry);
   }
+  // A press in the box ends what the pointer had begun there. This button opens no list, which
+  // would stay the window in front in memory.
+  void Press() { QTest::mouseClick(&Box, Qt::MiddleButton); }
+  static bool TipComes() {
+    return WindowWorld::WaitFor([] { return IsShown("KeywordTip"); });
+  }
   ClsTooltip& Tip() { return World.Main.Help().Tips.KeywordTip(); }
 
   WindowWorld World;
@@ -97,8 +103,36 @@ TEST_F(KeywordBoxTest, TheTipShowsWhatWasPicked) {
   EXPECT_FALSE(IsShown("KeywordTip"));
   Pick(0);
   PointAt(Box, {9, 0});
-  EXPECT_TRUE(WindowWorld::WaitFor([] { return IsShown("KeywordTip"); }));
+  EXPECT_TRUE(TipComes());
   EXPECT_EQ(TipNamed("KeywordTip")->Content().Text, "First.\nMore.");
+}
+
+TEST_F(KeywordBoxTest, TheTipComesAtTheFirstRestBehindAPick) {
+  PointAt(Box);
+  Press();
+  Pick(0);
+  PointAt(Box, {9, 0});
+  EXPECT_TRUE(TipComes());
+  Press();
+  PointAt(Box, {5, 0});
+  QTest::qWait(150);
+  EXPECT_FALSE(IsShown("KeywordTip"));  // nothing was picked
+  QTest::keyClick(&Box, Qt::Key_End);
+  QTest::keyClick(&Box, Qt::Key_Up);
+  PointAt(Box, {3, 0});
+  EXPECT_TRUE(TipComes());
+  EXPECT_EQ(TipNamed("KeywordTip")->Content().Text, "c");
+}
+
+TEST_F(KeywordBoxTest, ABlankRowIsPickedLikeAnyOther) {
+  World.Main.ShowKeywords(LoadKeywordList(u"<A>\r\n'a\r\n\r\n"));
+  ASSERT_EQ(Box.count(), 2);
+  Pick(0);
+  World.Clipboard.Steps.clear();
+  Pick(1);
+  EXPECT_EQ(Tip().TipText(), u"");
+  EXPECT_EQ(World.Clipboard.Steps, (std::vector<Text>{u"(clear)", u""}));
+  EXPECT_EQ(World.Main.State().Status, u" has been copied to the clipboard");
 }
 
 TEST_F(KeywordBoxTest, TheHelpOutlivesAHoverReset) {

@@ -69,6 +69,36 @@ TEST_F(MenuOpeningTest, AStepAboveTheHeightLeavesTheMenuNarrow) {
   EXPECT_EQ(size, QSize(1, RowHeight() + 8));  // 10 twips wide
 }
 
+TEST_F(MenuOpeningTest, AnOpenedMenuHasItsStripAndPictureAtItsFinalHeight) {
+  constexpr QRgb Strip = 0xFF00FF00;
+  constexpr QRgb Red = 0xFFFF0000;
+  Menu.Properties().OpenAnimated = true;
+  Menu.Properties().MenuAnimSpeed = 100;
+  Menu.Properties().Style = 2;
+  Menu.Properties().UseLeftImage = true;
+  Menu.Properties().LeftPicBackColor = 0x00FF00;
+  QImage left(10, 10, QImage::Format_RGB32);
+  left.fill(Red);
+  for (int i = 0; i < 20; ++i) {
+    Add("Row");
+  }
+  QImage shown;
+  Show(
+      [&](QWidget& form) {
+        shown = PictureOf(form);
+        Release(form, {});
+      },
+      {200, 150}, left);
+  const int height = 20 * RowHeight() + 8;
+  ASSERT_EQ(shown.height(), height);
+  for (int y = 1; y < height - 1; ++y) {
+    const bool isStrip = y >= 3 && y < height - 3;
+    const bool isPicture = y >= height - 3 - 10 && y < height - 3;
+    EXPECT_EQ(shown.pixel(17, y), isStrip ? Strip : Face) << y;
+    EXPECT_EQ(shown.pixel(2, y), isPicture ? Red : isStrip ? Strip : Face) << y;
+  }
+}
+
 TEST_F(MenuOpeningTest, AReleaseDuringTheOpeningEndsTheMenu) {
   Menu.Properties().OpenAnimated = true;
   Menu.Properties().MenuAnimSpeed = 15;

@@ -70,6 +70,19 @@ TEST_F(TooltipOnDemandTest, NamedPlacesOfAControl) {
   }
 }
 
+TEST_F(TooltipOnDemandTest, OfCenteredKindStandsBelowItsPlace) {
+  Tip.SetCentered(true);
+  for (const auto style : {ClsTooltip::BalloonStyle, ClsTooltip::RectangleStyle}) {
+    Tip.SetStyle(style);
+    CreateOnDemand();
+    Tip.Show(5, 6, Button);
+    ASSERT_TRUE(IsShown("tip"));
+    const QPoint place = Button.mapToGlobal(QPoint(5, 6));
+    EXPECT_NEAR(TipNamed("tip")->geometry().center().x(), place.x(), 1);
+    EXPECT_EQ(TipNamed("tip")->geometry().top(), place.y());
+  }
+}
+
 TEST_F(TooltipOnDemandTest, OnDemandFollowsItsWindowAndControl) {
   CreateOnDemand();
   Tip.Show(5, 6, Button);

@@ -93,6 +93,39 @@ TEST_F(TooltipTest, GoesWithAPressAndComesBackWhenThePointerDoes) {
   EXPECT_TRUE(Appears());
 }
 
+TEST_F(TooltipTest, APressInAPartOfItsControlIsOneInTheControl) {
+  QComboBox parts(&Window);
+  parts.setEditable(true);
+  parts.setGeometry(150, 10, 120, 24);
+  parts.show();
+  Tip.CreateToolTip(parts);
+  PointAt(parts);
+  ASSERT_TRUE(Appears());
+  QTest::mouseClick(parts.lineEdit(), Qt::LeftButton);
+  EXPECT_FALSE(IsShown("tip"));
+  PointAt(parts, {3, 3});
+  EXPECT_TRUE(StaysHidden());  // while one types
+  PointAt(Other);
+  PointAt(parts);
+  QTest::mouseClick(parts.lineEdit(), Qt::LeftButton);  // before the pointer has rested
+  EXPECT_TRUE(StaysHidden());
+  PointAt(Other);
+  PointAt(parts);
+  EXPECT_TRUE(Appears());
+}
+
+TEST_F(TooltipTest, WithSomethingNewToTellItComesAgainAtTheNextRest) {
+  Create();
+  PointAt(Button);
+  ASSERT_TRUE(Appears());
+  Tip.AwaitNextRest();
+  EXPECT_TRUE(IsShown("tip"));
+  QTest::mouseClick(&Button, Qt::LeftButton);
+  Tip.AwaitNextRest();
+  PointAt(Button, {3, 3});
+  EXPECT_TRUE(Appears());
+}
+
 TEST_F(TooltipTest, GoesAfterItsTimeAndComesBackWhenThePointerDoes) {
   Tip.SetVisibleTime(60);
   Create();
@@ -147,6 +180,14 @@ TEST_F(TooltipTest, PointsToThePointer) {
   PointAt(Button, {7, -3});
   ASSERT_TRUE(Appears());
   EXPECT_EQ(StemPoint(*TipNamed("tip")), QCursor::pos());
+}
+
+TEST_F(TooltipTest, OfRectangleStyleStandsClearOfThePointer) {
+  Tip.SetStyle(ClsTooltip::RectangleStyle);
+  Create();
+  PointAt(Button, {7, -3});
+  ASSERT_TRUE(Appears());
+  EXPECT_EQ(TipNamed("tip")->geometry().topLeft(), QCursor::pos() + QPoint(0, 20));
 }
 
 TEST_F(TooltipTest, OfCenteredKindStandsBelowItsControl) {
@@ -254,6 +295,42 @@ TEST_F(TooltipTest, TimesCountFromTheNextMakingOn) {
   Create();
   PointAt(Button);
   EXPECT_TRUE(Appears());
+}
+
+TEST_F(TooltipTest, TheVisibleTimeCountsFromTheNextMakingOn) {
+  Tip.SetVisibleTime(60);
+  Create();
+  Tip.SetVisibleTime(100'000);
+  PointAt(Button);
+  ASSERT_TRUE(Appears());
+  EXPECT_TRUE(Hides());
+  PointAt(Other);
+  Create();
+  PointAt(Button);
+  ASSERT_TRUE(Appears());
+  QTest::qWait(120);
+  EXPECT_TRUE(IsShown("tip"));
+}
+
+TEST_F(TooltipTest, CenteringCountsFromTheNextMakingOn) {
+  Create();
+  Tip.SetCentered(true);
+  PointAt(Button, {7, -3});
+  ASSERT_TRUE(Appears());
+  EXPECT_EQ(StemPoint(*TipNamed("tip")), QCursor::pos());
+  Tip.SetTipText(u"Another text");  // it is placed anew
+  EXPECT_EQ(StemPoint(*TipNamed("tip")), QCursor::pos());
+}
+
+TEST_F(TooltipTest, ALongerTextWidensItUnderThePointer) {
+  Create();
+  PointAt(Button);
+  ASSERT_TRUE(Appears());
+  const int before = TipNamed("tip")->width();
+  Tip.SetTipText(u"A text that is clearly longer");
+  EXPECT_TRUE(IsShown("tip"));
+  EXPECT_GT(TipNamed("tip")->width(), before);
+  EXPECT_EQ(StemPoint(*TipNamed("tip")), QCursor::pos());
 }
 
 TEST_F(TooltipTest, TakesNoFocus) {

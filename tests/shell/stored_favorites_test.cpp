@@ -39,6 +39,17 @@ TEST_F(StoredFavoritesTest, AnyFolderComesBackAsItWas) {
   EXPECT_EQ(Slots.Read(1), odd);
 }
 
+TEST_F(StoredFavoritesTest, AFileThatTakesNothingIsPassedOver) {
+  Slots.Save(1, u"/x/");
+  World.File.Denied = true;
+  EXPECT_NO_THROW(Slots.Save(1, u"/y/"));
+  EXPECT_NO_THROW(Slots.Save(2, u"/y/"));
+  EXPECT_NO_THROW(Slots.Delete(1));
+  EXPECT_TRUE(World.Boxes.Boxes.empty());
+  EXPECT_EQ(Slots.Read(1), u"/x/");
+  EXPECT_EQ(Slots.Read(2), u"");
+}
+
 TEST_F(StoredFavoritesTest, TheyGoWithAllSettings) {
   Slots.Save(1, u"/x/");
   EXPECT_TRUE(DeleteAllSettings(World.Registry));
