@@ -22,14 +22,28 @@ check() { # check NAME COMMAND...
   rm -f "$log"
 }
 
-test_program() { # test_program PROGRAM: a GoogleTest program, counted by its own last lines
-  local log status ran good bad
-  log=$(mktemp)
-  "$@" --gtest_brief=1 2>&1 | tee "$log"
-  status=${PIPESTATUS[0]}
-  ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$log")
-  good=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$log")
-  rm -f "$log"
+test_programs() { # test_programs PROGRAM...: GoogleTest programs, side by side
+  local logs program
+  logs=$(mktemp -d)
+  for program in "$@"; do
+    (
+      "$program" --gtest_brief=1 >"$logs/${program##*/}" 2>&1
+      echo $? >"$logs/${program##*/}.status"
+    ) &
+  done
+  wait
+  for program in "$@"; do
+    cat "$logs/${program##*/}"
+    count_tests "$program" "$logs/${program##*/}"
+  done
+  rm -rf "$logs"
+}
+
+count_tests() { # count_tests PROGRAM LOG: by the last lines that it printed
+  local status ran good bad
+  status=$(cat "$2.status")
+  ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$2")
+  good=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$2")
   bad=$((${ran:-0} - ${good:-0}))
   # A program that ended early, or counted nothing, is a failure whatever it printed.
   if ((bad == 0)) && { ((status != 0)) || ((${ran:-0} == 0)); }; then
@@ -97,10 +111,9 @@ check "formatting" format_is_kept
 check "docs/operations.md is up to date" tools/make_operations_doc.py --check
 for preset in core asan; do
   check "build $preset" build "$preset"
-  for program in build/"$preset"/bin/*_tests; do
-    [[ -x "$program" ]] && test_program "$program"
-  done
+  test_programs build/"$preset"/bin/{cli,core}_tests
 done
+test_programs build/asan/bin/gui_tests
 # What ./dev run builds.
 check "build release" build release
 e2e_tests build/asan/bin
