@@ -145,7 +145,7 @@ class WindowCase(unittest.TestCase):
 
         def rests():
             before = computed()
-            time.sleep(0.2)
+            time.sleep(0.5)
             return computed() - before <= 2
         wait_for(rests, "a program at rest")
 
